@@ -1,0 +1,15 @@
+# Lays out the program folder FOLDER from the shipped DATA and the EXECUTABLE.
+file(MAKE_DIRECTORY ${FOLDER})
+configure_file(${EXECUTABLE} ${FOLDER}/quarvel COPYONLY)
+file(GLOB texts ${DATA}/*.lng ${DATA}/*.wav)
+foreach(text ${texts})
+  get_filename_component(name ${text} NAME)
+  configure_file(${text} ${FOLDER}/${name} COPYONLY)
+endforeach()
+# What the user may have changed since is laid down only once.
+if(NOT EXISTS ${FOLDER}/LangSetting.ini)
+  file(COPY ${DATA}/LangSetting.ini DESTINATION ${FOLDER})
+endif()
+if(NOT EXISTS ${FOLDER}/aeroporti)
+  file(COPY ${DATA}/aeroporti DESTINATION ${FOLDER})
+endif()

@@ -1,0 +1,84 @@
+#include "files/lookup.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <cstring>
+#include <dirent.h>
+#include <memory>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quarvel {
+namespace {
+
+struct DirCloser {
+    void operator()(DIR* dir) const { ::closedir(dir); }
+};
+
+QString composed(const QString& text) { return text.normalized(QString::NormalizationForm_C); }
+
+int compareNames(const QString& left, const QString& right) {
+    const int folded = QString::compare(composed(left), composed(right), Qt::CaseInsensitive);
+    return folded != 0 ? folded : QString::compare(left, right);
+}
+
+bool exists(const QString& path) {
+    struct stat info {};
+    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
+}
+
+/// All entry names of a folder, "." and ".." left out; empty when it cannot be read.
+QStringList entryNames(const QString& folder) {
+    QStringList names;
+    const std::unique_ptr<DIR, DirCloser> dir(::opendir(QFile::encodeName(folder).constData()));
+    if (!dir) return names;
+    while (const dirent* entry = ::readdir(dir.get())) // NOLINT(concurrency-mt-unsafe): one thread only
+        if (std::strcmp(entry->d_name, ".") != 0 && std::strcmp(entry->d_name, "..") != 0)
+            names.append(QFile::decodeName(entry->d_name));
+    return names;
+}
+
+} // namespace
+
+bool sameName(const QString& left, const QString& right) {
+    return QString::compare(composed(left), composed(right), Qt::CaseInsensitive) == 0;
+}
+
+QString nameOnDisk(const QString& folder, const QString& name) {
+    if (exists(folder + u'/' + name)) return name;
+    QStringList alike;
+    for (const QString& entry : entryNames(folder))
+        if (sameName(entry, name)) alike.append(entry);
+    return alike.isEmpty() ? name : *std::min_element(alike.cbegin(), alike.cend());
+}
+
+QString resolvePath(const QString& root, const QString& relative) {
+    QString path = root;
+    for (const QString& part : relative.split(u'/', Qt::SkipEmptyParts)) path += u'/' + nameOnDisk(path, part);
+    return path;
+}
+
+QString resolveForWriting(const QString& root, const QString& relative) {
+    const qsizetype cut = relative.lastIndexOf(u'/');
+    return resolvePath(root, relative.left(std::max<qsizetype>(cut, 0))) + u'/' + relative.mid(cut + 1);
+}
+
+bool holdsExactly(const QString& folder, const QString& name) {
+    return entryNames(folder).contains(name) && QFileInfo(folder + u'/' + name).isFile();
+}
+
+Result<QStringList> listFiles(const QString& folder) {
+    const QFileInfo info(folder);
+    if (!info.isDir()) return Failure{Fault::NotFound, folder, {}};
+    if (::access(QFile::encodeName(folder).constData(), R_OK | X_OK) != 0)
+        return Failure{Fault::Unreadable, folder, {}};
+    QStringList names;
+    for (const QString& name : entryNames(folder))
+        if (!name.startsWith(u'.') && QFileInfo(folder + u'/' + name).isFile()) names.append(name);
+    std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) { return compareNames(a, b) < 0; });
+    return names;
+}
+
+} // namespace quarvel

@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+#include <utility>
+#include <variant>
+
+namespace quarvel {
+
+/// What went wrong with a file of the user's; each has a plain sentence of its own in the language files.
+enum class Fault {
+    NotFound,        ///< no such file or folder
+    NotRegular,      ///< a folder, a device or a pipe stands where a file is expected
+    Unreadable,      ///< the system refused to open or read it
+    Unwritable,      ///< the system refused to create, write or replace it
+    DiskFull,        ///< no room left for it
+    TooLarge,        ///< larger than any file of its kind can sensibly be
+    TooShort,        ///< it ends before all its values
+    Damaged,         ///< its content is not of its format
+    BadName,         ///< a name that is empty, leaves its folder or holds a refused character
+    NotInCodePage,   ///< a text with a character that the single-byte format lacks
+};
+
+/// Why an operation did not happen. `path` names the file or folder; `detail` what in it offends (a character,
+/// a count) and is mostly empty. The system's own reason is not kept: it would be told in the wrong language.
+struct Failure {
+    Fault fault;
+    QString path;
+    QString detail;
+};
+
+/// A value, or the reason why there is none.
+template <class T>
+class [[nodiscard]] Result {
+public:
+    Result(T value) : content_(std::move(value)) {}           // NOLINT: implicit on purpose
+    Result(Failure failure) : content_(std::move(failure)) {} // NOLINT: implicit on purpose
+
+    [[nodiscard]] bool ok() const { return content_.index() == 0; }
+    explicit operator bool() const { return ok(); }
+    [[nodiscard]] const T& value() const { return std::get<0>(content_); }
+    [[nodiscard]] T take() { return std::move(std::get<0>(content_)); }
+    [[nodiscard]] const Failure& failure() const { return std::get<1>(content_); }
+
+private:
+    std::variant<T, Failure> content_;
+};
+
+/// Nothing, or the reason why an action failed.
+template <>
+class [[nodiscard]] Result<void> {
+public:
+    Result() = default;
+    Result(Failure failure) : failure_(std::move(failure)) {} // NOLINT: implicit on purpose
+
+    [[nodiscard]] bool ok() const { return !failure_.has_value(); }
+    explicit operator bool() const { return ok(); }
+    [[nodiscard]] const Failure& failure() const { return *failure_; }
+
+private:
+    std::optional<Failure> failure_;
+};
+
+} // namespace quarvel

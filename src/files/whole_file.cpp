@@ -1,0 +1,78 @@
+#include "files/whole_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quarvel {
+namespace {
+
+Failure readFailure(const QString& path, int error) {
+    return {error == ENOENT || error == ENOTDIR ? Fault::NotFound : Fault::Unreadable, path, {}};
+}
+
+Failure writeFailure(const QString& path, int error) {
+    const bool full = error == ENOSPC || error == EDQUOT || error == EFBIG;
+    return {full ? Fault::DiskFull : Fault::Unwritable, path, {}};
+}
+
+/// An open descriptor that closes itself.
+class Descriptor {
+public:
+    explicit Descriptor(int number) : number_(number) {}
+    ~Descriptor() {
+        if (number_ >= 0) ::close(number_);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    [[nodiscard]] int number() const { return number_; }
+
+private:
+    int number_;
+};
+
+} // namespace
+
+Result<QByteArray> readWholeFile(const QString& path, qint64 limitBytes) {
+    // Opened without blocking: a pipe without a writer would otherwise wait for one before it can be refused.
+    const Descriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+    if (file.number() < 0) return readFailure(path, errno);
+    struct stat info {};
+    if (::fstat(file.number(), &info) != 0) return readFailure(path, errno);
+    if (!S_ISREG(info.st_mode)) return Failure{Fault::NotRegular, path, {}};
+    if (info.st_size > limitBytes) return Failure{Fault::TooLarge, path, {}};
+
+    QByteArray bytes(static_cast<qsizetype>(info.st_size), Qt::Uninitialized);
+    qsizetype got = 0;
+    while (got < bytes.size()) {
+        const ssize_t count = ::read(file.number(), bytes.data() + got, static_cast<size_t>(bytes.size() - got));
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) return readFailure(path, errno);
+        if (count == 0) break;
+        got += count;
+    }
+    bytes.truncate(got);
+    return bytes;
+}
+
+Result<void> writeWholeFile(const QString& path, const QByteArray& bytes) {
+    const QFileInfo info(path);
+    if (info.exists() && !info.isFile()) return Failure{Fault::NotRegular, path, {}};
+    QSaveFile file(path);
+    file.setDirectWriteFallback(false);
+    errno = 0;
+    if (!file.open(QIODevice::WriteOnly)) return writeFailure(path, errno);
+    if (file.write(bytes) != bytes.size() || !file.flush() || ::fsync(file.handle()) != 0) {
+        const int error = errno;
+        file.cancelWriting();
+        return writeFailure(path, error);
+    }
+    if (!file.commit()) return writeFailure(path, errno);
+    return {};
+}
+
+} // namespace quarvel

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+namespace quarvel {
+
+/// The characters of a text in reverse order.
+[[nodiscard]] QString ReverseString(QString text);
+
+/// A file name without its last four characters; empty for four characters or fewer.
+[[nodiscard]] QString StripExtension(const QString& name);
+
+/// The last three characters of a file name, or all of a shorter one.
+[[nodiscard]] QString GetExtension(const QString& name);
+
+/// A text without the blanks (U+0020 only) at its two ends.
+[[nodiscard]] QString trimBlanks(const QString& text);
+
+} // namespace quarvel

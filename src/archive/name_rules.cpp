@@ -1,0 +1,40 @@
+#include "archive/name_rules.h"
+
+#include <QChar>
+#include <QFile>
+
+namespace quarvel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Bytes of the longest new name. A file system takes names of 255: the data file adds ".txt", and its
+/// temporary neighbour while it is being saved a dot and six letters more.
+constexpr qsizetype longestNewName = 255 - 4 - 7;
+
+bool leavesFolder(QChar character) {
+    return character == u'/' || character == u'\\' || character.category() == QChar::Other_Control;
+}
+
+bool refused(QChar character) { return leavesFolder(character) || u"*?\"<>|:"_s.contains(character); }
+
+} // namespace
+
+Result<void> checkAirportName(const QString& name, NameUse use) {
+    if (name.isEmpty() || name == u"."_s || name == u".."_s) return Failure{Fault::BadName, name, {}};
+    for (const QChar character : name)
+        if (refused(character)) return Failure{Fault::BadName, name, QString(character)};
+    if (use == NameUse::Existing) return {};
+    if (name.endsWith(u'.') || name.endsWith(u' ')) return Failure{Fault::BadName, name, name.last(1)};
+    if (QFile::encodeName(name).size() > longestNewName) return Failure{Fault::BadName, name, {}};
+    return {};
+}
+
+bool staysInFolder(const QString& text) {
+    for (const QChar character : text)
+        if (leavesFolder(character)) return false;
+    return true;
+}
+
+} // namespace quarvel

@@ -1,0 +1,65 @@
+#include "archive/paths.h"
+
+#include "files/lookup.h"
+#include "text/strings.h"
+
+#include <utility>
+
+namespace quarvel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString airportRelative(const QString& name) { return u"aeroporti/"_s + name; }
+QString generalRelative(const QString& name) { return airportRelative(name) + u"/Aeroporto"_s; }
+QString dataRelative(const QString& name) { return generalRelative(name) + u'/' + name + u".txt"_s; }
+
+QString presenterRelative(const QString& name, const QString& icao) {
+    return airportRelative(name) + u'/' + icao + u"_Agent.txt"_s;
+}
+
+} // namespace
+
+ArchivePaths::ArchivePaths(QString programFolder) : programFolder_(std::move(programFolder)) {}
+
+QString ArchivePaths::archiveFolder() const { return resolvePath(programFolder_, u"aeroporti"_s); }
+
+QString ArchivePaths::airportFolder(const QString& name) const {
+    return resolvePath(programFolder_, airportRelative(name));
+}
+
+QString ArchivePaths::generalFolder(const QString& name) const {
+    return resolvePath(programFolder_, generalRelative(name));
+}
+
+QString ArchivePaths::dataFile(const QString& name) const {
+    return resolvePath(programFolder_, dataRelative(name));
+}
+
+QString ArchivePaths::dataFileForWriting(const QString& name) const {
+    return resolveForWriting(programFolder_, dataRelative(name));
+}
+
+QString ArchivePaths::picture(const QString& name, const QString& icao) const {
+    const QString folder = generalFolder(name);
+    const QString file = trimBlanks(icao) + u".gif"_s;
+    // The lower-case form goes before any other mixture: it is the one that the opening check may have found.
+    if (!holdsExactly(folder, file) && holdsExactly(folder, file.toLower()))
+        return folder + u'/' + file.toLower();
+    return resolvePath(folder, file);
+}
+
+QString ArchivePaths::presenterText(const QString& name, const QString& icao) const {
+    return resolvePath(programFolder_, presenterRelative(name, icao));
+}
+
+QString ArchivePaths::presenterTextForWriting(const QString& name, const QString& icao) const {
+    return resolveForWriting(programFolder_, presenterRelative(name, icao));
+}
+
+QString ArchivePaths::familyFolder(const QString& name, const QString& family) const {
+    return resolvePath(programFolder_, airportRelative(name) + u'/' + family) + u'/';
+}
+
+} // namespace quarvel

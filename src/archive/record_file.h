@@ -1,0 +1,29 @@
+#pragma once
+
+#include "archive/record.h"
+#include "files/result.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace quarvel {
+
+/// The bytes of a data file: 39 lines in Windows-1252, each a value in double quotes, ended by CR LF. An
+/// empty value is written as ---; a double quote inside a value as the closing typographic quote, which the
+/// format holds. Fails with NotInCodePage (detail: the character that cannot be stored).
+[[nodiscard]] Result<QByteArray> recordBytes(const AirportRecord& record, const QString& path);
+
+/// Reads 39 values from a data file's bytes, tolerantly: blanks before a value are skipped; a quoted value
+/// runs to the next quote (or the end of the file), any other to the next comma or line end, blanks at its
+/// ends dropped; after a closing quote everything up to and including the next comma or line end is skipped.
+/// Line ends are CR LF, LF or CR. What follows the 39th value is ignored. Fails with TooShort (detail: how
+/// many values there are).
+[[nodiscard]] Result<AirportRecord> parseRecord(const QByteArray& bytes, const QString& path);
+
+/// Reads a data file. Fails with the faults of readWholeFile and parseRecord.
+[[nodiscard]] Result<AirportRecord> readRecord(const QString& path);
+
+/// Creates or replaces a data file in one step. Fails with those of recordBytes and writeWholeFile.
+[[nodiscard]] Result<void> writeRecord(const QString& path, const AirportRecord& record);
+
+} // namespace quarvel

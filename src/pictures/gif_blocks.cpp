@@ -1,0 +1,194 @@
+#include "pictures/gif_blocks.h"
+
+#include "pictures/lzw.h"
+
+#include <QByteArrayView>
+#include <cstddef>
+#include <utility>
+
+namespace quarvel {
+namespace {
+
+constexpr int longestSide = 32767;
+constexpr qint64 mostPixels = 128'000'000;
+constexpr std::uint32_t black = 0xFF000000;
+constexpr std::uint32_t white = 0xFFFFFFFF;
+
+enum Introducer : std::uint8_t { extensionBlock = 0x21, imageBlock = 0x2C, trailer = 0x3B };
+constexpr std::uint8_t graphicControl = 0xF9;
+constexpr std::uint8_t hasTable = 0x80; // in the flags of the screen and of a frame
+constexpr std::uint8_t isInterlaced = 0x40;
+
+bool tooLarge(QSize size) {
+    return size.width() > longestSide || size.height() > longestSide ||
+           qint64{size.width()} * size.height() > mostPixels;
+}
+
+/// The bytes of the file from front to back. Past the end it gives zeros and remembers that it did.
+class Bytes {
+public:
+    explicit Bytes(std::span<const std::uint8_t> left) : left_(left) {}
+
+    [[nodiscard]] bool ranOut() const { return ranOut_; }
+    [[nodiscard]] std::size_t left() const { return left_.size(); }
+
+    /// The next `count` bytes, or none when fewer are left.
+    std::span<const std::uint8_t> take(std::size_t count) {
+        if (count > left_.size()) {
+            ranOut_ = true;
+            left_ = {};
+            return {};
+        }
+        const auto taken = left_.first(count);
+        left_ = left_.subspan(count);
+        return taken;
+    }
+    std::uint8_t byte() {
+        const auto one = take(1);
+        return one.empty() ? std::uint8_t{0} : one[0];
+    }
+    int word() {
+        const int low = byte();
+        return low | byte() << 8;
+    }
+
+private:
+    std::span<const std::uint8_t> left_;
+    bool ranOut_ = false;
+};
+
+/// One pass over the blocks of a file. Every step answers with what is wrong, if anything.
+class BlockWalk {
+public:
+    explicit BlockWalk(const QByteArray& gif)
+        : bytes_({reinterpret_cast<const std::uint8_t*>(gif.constData()),
+                  static_cast<std::size_t>(gif.size())}) {}
+
+    [[nodiscard]] std::optional<Fault> toTrailer();
+    [[nodiscard]] GifFrame takeFrame() { return std::move(frame_); }
+
+private:
+    std::optional<Fault> header();
+    std::optional<Fault> extension();
+    std::optional<Fault> image();
+    std::optional<Fault> firstImage();
+    void table(std::uint8_t flags);
+    void skipTable(std::uint8_t flags) { bytes_.take(flags & hasTable ? tableBytes(flags) : 0); }
+    static std::size_t tableBytes(std::uint8_t flags) { return std::size_t{6} << (flags & 7); }
+    void skipSubBlocks() {
+        while (const std::uint8_t size = bytes_.byte()) bytes_.take(size);
+    }
+    void joinSubBlocks();
+
+    Bytes bytes_;
+    GifFrame frame_;
+    bool haveFrame_ = false;
+};
+
+std::optional<Fault> BlockWalk::toTrailer() {
+    if (const auto fault = header()) return fault;
+    while (!bytes_.ranOut()) {
+        std::optional<Fault> fault;
+        switch (bytes_.byte()) {
+        case extensionBlock: fault = extension(); break;
+        case imageBlock: fault = haveFrame_ ? image() : firstImage(); break;
+        case trailer: return haveFrame_ ? fault : Fault::Damaged;
+        default: return Fault::Damaged;
+        }
+        if (fault) return fault;
+    }
+    return Fault::Damaged;
+}
+
+std::optional<Fault> BlockWalk::header() {
+    const auto signature = bytes_.take(6);
+    const QByteArrayView name(signature.data(), static_cast<qsizetype>(signature.size()));
+    if (name != QByteArrayView("GIF87a") && name != QByteArrayView("GIF89a")) return Fault::Damaged;
+    const int width = bytes_.word();
+    frame_.screen = QSize(width, bytes_.word());
+    if (tooLarge(frame_.screen)) return Fault::TooLarge;
+    const std::uint8_t flags = bytes_.byte();
+    bytes_.take(2); // background colour and pixel aspect: bare paper is white here, and pixels are square
+    frame_.palette.fill(black);
+    // A file without any table leaves the colours to its reader, who should begin them with black and white.
+    frame_.palette[1] = white;
+    table(flags);
+    return {};
+}
+
+void BlockWalk::table(std::uint8_t flags) {
+    if (!(flags & hasTable)) return;
+    frame_.palette.fill(black);
+    const auto colours = bytes_.take(tableBytes(flags));
+    for (std::size_t i = 0; i + 2 < colours.size(); i += 3) {
+        const auto red = std::uint32_t{colours[i]} << 16;
+        const auto green = std::uint32_t{colours[i + 1]} << 8;
+        frame_.palette[i / 3] = black | red | green | colours[i + 2];
+    }
+}
+
+std::optional<Fault> BlockWalk::extension() {
+    if (bytes_.byte() == graphicControl && !haveFrame_) {
+        if (bytes_.byte() != 4) return Fault::Damaged;
+        const bool transparent = bytes_.byte() & 1;
+        bytes_.take(2); // how long the frame stands: only animations ask
+        const std::uint8_t index = bytes_.byte();
+        frame_.transparent = transparent ? std::optional(index) : std::nullopt;
+    }
+    skipSubBlocks();
+    return {};
+}
+
+std::optional<Fault> BlockWalk::image() {
+    bytes_.take(8);
+    skipTable(bytes_.byte());
+    bytes_.byte();
+    skipSubBlocks();
+    return {};
+}
+
+std::optional<Fault> BlockWalk::firstImage() {
+    const int left = bytes_.word();
+    const int top = bytes_.word();
+    const int width = bytes_.word();
+    const QSize size(width, bytes_.word());
+    if (size.isEmpty()) return Fault::Damaged;
+    if (tooLarge(size)) return Fault::TooLarge;
+    frame_.place = QRect(QPoint(left, top), size);
+    if (frame_.screen.isEmpty()) {
+        frame_.screen = size;
+        frame_.place.moveTo(0, 0);
+    }
+    const std::uint8_t flags = bytes_.byte();
+    frame_.interlaced = flags & isInterlaced;
+    table(flags);
+    if (frame_.transparent) frame_.palette[*frame_.transparent] = white;
+    frame_.rootBits = bytes_.byte();
+    if (frame_.rootBits < 2 || frame_.rootBits > 8) return Fault::Damaged;
+    joinSubBlocks();
+    haveFrame_ = true;
+    return {};
+}
+
+void BlockWalk::joinSubBlocks() {
+    frame_.packed.reserve(bytes_.left() + lzwInputSlack);
+    while (const std::uint8_t size = bytes_.byte()) {
+        const auto block = bytes_.take(size);
+        frame_.packed.insert(frame_.packed.end(), block.begin(), block.end());
+    }
+    frame_.packed.insert(frame_.packed.end(), lzwInputSlack, 0);
+}
+
+} // namespace
+
+std::span<const std::uint8_t> GifFrame::codes() const {
+    return std::span(packed).first(packed.size() - lzwInputSlack);
+}
+
+Result<GifFrame> readFirstFrame(const QByteArray& gif, const QString& path) {
+    BlockWalk walk(gif);
+    if (const auto fault = walk.toTrailer()) return Failure{*fault, path, {}};
+    return walk.takeFrame();
+}
+
+} // namespace quarvel

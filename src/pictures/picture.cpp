@@ -1,0 +1,54 @@
+#include "pictures/picture.h"
+
+#include "files/whole_file.h"
+#include "pictures/gif_reader.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+namespace quarvel {
+namespace {
+
+/// More than the largest picture that is accepted can take, even when its codes save nothing.
+constexpr qint64 largestFileBytes = 256 * 1024 * 1024;
+
+/// The index found most often on a grid of points over the picture.
+std::uint8_t commonest(const GifPicture& gif) {
+    constexpr int points = 24; // a side
+    std::array<int, 256> found{};
+    for (int j = 0; j < points; ++j) {
+        const qint64 y = qint64{gif.size.height()} * (2 * j + 1) / (2 * points);
+        for (int i = 0; i < points; ++i) {
+            const qint64 x = qint64{gif.size.width()} * (2 * i + 1) / (2 * points);
+            ++found[gif.pixels[y * gif.size.width() + x]];
+        }
+    }
+    return static_cast<std::uint8_t>(std::max_element(found.begin(), found.end()) - found.begin());
+}
+
+} // namespace
+
+Result<Picture> Picture::read(const QString& path) {
+    const auto bytes = readWholeFile(path, largestFileBytes);
+    if (!bytes) return bytes.failure();
+    return decode(bytes.value(), path);
+}
+
+Result<Picture> Picture::decode(const QByteArray& gif, const QString& path) {
+    auto decoded = readGif(gif, path);
+    if (!decoded) return decoded.failure();
+    GifPicture content = decoded.take();
+    Picture picture;
+    picture.size_ = content.size;
+    picture.ground_ = commonest(content);
+    picture.pixels_ = std::move(content.pixels);
+    picture.palette_ = std::make_shared<const std::array<std::uint32_t, 256>>(content.palette);
+    return picture;
+}
+
+const std::uint8_t* Picture::row(int y) const {
+    return pixels_.get() + static_cast<std::size_t>(y) * static_cast<std::size_t>(size_.width());
+}
+
+} // namespace quarvel

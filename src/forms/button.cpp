@@ -1,0 +1,105 @@
+#include "forms/button.h"
+
+#include "forms/compiled_pictures.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace quarvel {
+namespace {
+
+/// A push button drawn with its picture above its caption, in as much room as the caption leaves.
+class GraphicButton : public QPushButton {
+public:
+    QPixmap picture;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        paintFace(painter);
+        const int flags = Qt::AlignHCenter | Qt::AlignBottom | Qt::TextWordWrap | Qt::TextShowMnemonic;
+        const QRect inside = rect().adjusted(2, 3, -2, -3).translated(0, isDown() ? 1 : 0);
+        const QRect text = painter.boundingRect(inside, flags, this->text());
+        painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
+        painter.drawText(inside, flags, this->text());
+        if (picture.isNull()) return;
+        const QSize natural = picture.deviceIndependentSize().toSize();
+        const int room = std::min(natural.height(), text.top() - inside.top());
+        QRect place(0, 0, natural.width() * room / natural.height(), room);
+        place.moveCenter({inside.center().x(), (inside.top() + text.top()) / 2});
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.setOpacity(isEnabled() ? 1.0 : 0.35);
+        painter.drawPixmap(place, picture);
+    }
+
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+            click();
+        else
+            QPushButton::keyPressEvent(event);
+    }
+
+private:
+    void paintFace(QPainter& painter) {
+        const bool hovered = underMouse() && isEnabled();
+        const QColor top = isDown() ? QColor(196, 198, 226) : hovered ? QColor(255, 255, 255) : QColor(248, 248, 253);
+        const QColor bottom = isDown() ? QColor(206, 208, 234) : hovered ? QColor(232, 234, 252) : QColor(220, 221, 238);
+        QLinearGradient face(0, 0, 0, height());
+        face.setColorAt(0, top);
+        face.setColorAt(1, bottom);
+        painter.setBrush(face);
+        painter.setPen(hasFocus() ? QPen(QColor(58, 66, 160), 2) : QPen(QColor(130, 134, 176), 1));
+        const double inset = hasFocus() ? 1.0 : 0.5;
+        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), 4, 4);
+    }
+};
+
+} // namespace
+
+Button::Button(Container& container, const ControlSpec& spec) : WidgetControl(container, spec, new GraphicButton) {
+    auto& graphic = static_cast<GraphicButton&>(widget());
+    if (*spec.picture != '\0') graphic.picture = compiledPicture(spec.picture);
+    graphic.setAttribute(Qt::WA_Hover);
+    QObject::connect(&graphic, &QAbstractButton::clicked, &graphic, [this] { clicked.raise(); });
+    setCaption(QString::fromUtf16(spec.caption));
+}
+
+QAbstractButton& Button::button() const { return static_cast<QAbstractButton&>(widget()); }
+
+std::optional<QString> Button::caption() const { return button().text(); }
+
+Setting Button::setCaption(const QString& text) {
+    button().setText(text);
+    return Setting::Done;
+}
+
+OptionButton::OptionButton(Container& container, const ControlSpec& spec)
+    : WidgetControl(container, spec, new QRadioButton) {
+    QObject::connect(&button(), &QAbstractButton::toggled, &button(), [this](bool on) {
+        if (on) chosen.raise();
+    });
+    setCaption(QString::fromUtf16(spec.caption));
+}
+
+QAbstractButton& OptionButton::button() const { return static_cast<QAbstractButton&>(widget()); }
+
+std::optional<QString> OptionButton::caption() const { return button().text(); }
+
+Setting OptionButton::setCaption(const QString& text) {
+    button().setText(text);
+    return Setting::Done;
+}
+
+void OptionButton::clear() {
+    // A group that keeps one chosen refuses to let the last go.
+    button().setAutoExclusive(false);
+    button().setChecked(false);
+    button().setAutoExclusive(true);
+}
+
+bool OptionButton::isChosen() const { return button().isChecked(); }
+
+} // namespace quarvel

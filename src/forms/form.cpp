@@ -1,0 +1,87 @@
+#include "forms/form.h"
+
+#include "forms/form_widget.h"
+
+#include <QCoreApplication>
+
+namespace quarvel {
+
+Form::Form(const FormDesign& design, Windows& windows) : design_(design), windows_(windows) {}
+
+Form::~Form() {
+    if (widget_) {
+        widget_->detach();
+        delete widget_.data();
+    }
+}
+
+void Form::load() {
+    ++loading_;
+    tag_.clear();
+    widget_ = new FormWidget(*this, design_);
+    build(*widget_);
+    Form_Load();
+}
+
+void Form::show() {
+    if (!widget_) load();
+    if (!widget_) return; // a handler that ran while the texts were set has unloaded it again
+    widget_->show();
+    widget_->raise();
+    widget_->activateWindow();
+}
+
+void Form::hide() {
+    if (widget_) widget_->hide();
+}
+
+void Form::unload() {
+    if (!widget_) return;
+    FormWidget* const old = widget_;
+    widget_.clear();
+    forgetControls();
+    old->detach();
+    old->hide();
+    old->deleteLater();
+    windows_.unloaded(*this);
+}
+
+bool Form::requestUnload(UnloadReason reason) {
+    if (Form_QueryUnload(reason) == Closing::Cancel) return false;
+    unload();
+    return true;
+}
+
+QString Form::windowName() const { return QString::fromLatin1(design_.name); }
+
+QString Form::windowCaption() const { return widget_ ? widget_->windowTitle() : QString(); }
+
+void Form::setWindowCaption(const QString& text) {
+    if (widget_) widget_->setWindowTitle(text);
+}
+
+QString Form::windowTag() const { return tag_; }
+
+void Form::setWindowTag(const QString& text) { tag_ = text; }
+
+std::vector<Control*> Form::controls() const { return widget_ ? widget_->controls() : std::vector<Control*>(); }
+
+void Form::processPendingMessages() { QCoreApplication::processEvents(); }
+
+bool Form::isLoaded() const { return !widget_.isNull(); }
+
+QWidget* Form::window() const { return widget_; }
+
+void Form::centreOn(const QRect& screen) {
+    if (widget_) widget_->centreOn(screen);
+}
+
+Form::OwnBox::OwnBox(Form& form) : widget_(form.widget_) {
+    if (widget_) widget_->beginOwnBox();
+}
+
+Form::OwnBox::~OwnBox() {
+    if (widget_) widget_->endOwnBox();
+}
+
+} // namespace quarvel

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "forms/container.h"
+#include "forms/core/control.h"
+#include "forms/windows.h"
+
+#include <QColor>
+#include <QPointer>
+#include <QRect>
+#include <memory>
+
+namespace quarvel {
+
+class FormWidget;
+
+/// Why a window is asked to unload.
+enum class UnloadReason {
+    ControlMenu, ///< the title bar's close box or the system menu
+    Code         ///< the program or the system
+};
+
+enum class Closing { GoAhead, Cancel };
+enum class Border { Fixed, Sizable };
+
+/// What a window is before its first loading.
+struct FormDesign {
+    const char* name;
+    const char16_t* caption;
+    double clientWidth;  ///< twips
+    double clientHeight; ///< twips
+    ScaleUnit scale{};
+    QColor background{};
+    Border border = Border::Fixed;
+};
+
+/// A window that outlives its widgets: loading builds them, unloading destroys them, and what the window keeps in its
+/// own fields survives. A subclass declares its controls and wires them in build().
+class Form : public ControlWindow {
+public:
+    Form(const FormDesign& design, Windows& windows);
+    ~Form() override;
+
+    /// Shows the window; one that is not loaded is loaded first.
+    void show();
+    void hide();
+    /// Destroys the window's widgets as soon as the running handlers have returned; from here on it has no controls.
+    void unload();
+
+    [[nodiscard]] QString windowName() const override;
+    [[nodiscard]] QString windowCaption() const override;
+    void setWindowCaption(const QString& text) override;
+    [[nodiscard]] QString windowTag() const override;
+    void setWindowTag(const QString& text) override;
+    [[nodiscard]] std::vector<Control*> controls() const override;
+    void processPendingMessages() override;
+    [[nodiscard]] bool isLoaded() const override;
+    [[nodiscard]] int loading() const override { return loading_; }
+
+    /// The window on the screen; none while it is not loaded.
+    [[nodiscard]] QWidget* window() const;
+
+    /// Gives the controls the names that assistive tools read, from the texts now on the window.
+    virtual void giveSpokenNames() {}
+
+    /// While it lives the window shows a box of its own: coming back from that is no activation.
+    class OwnBox {
+    public:
+        explicit OwnBox(Form& form);
+        ~OwnBox();
+        OwnBox(const OwnBox&) = delete;
+        OwnBox& operator=(const OwnBox&) = delete;
+
+    private:
+        QPointer<FormWidget> widget_;
+    };
+
+protected:
+    /// Makes the controls in the window that has just been created, and wires them.
+    virtual void build(FormWidget& widget) = 0;
+    /// The controls are about to go.
+    virtual void forgetControls() = 0;
+
+    virtual void Form_Load() {}
+    virtual void Form_Activate() {}
+    virtual Closing Form_QueryUnload(UnloadReason /*reason*/) { return Closing::GoAhead; }
+
+    /// Puts the window, frame included, in the middle of a screen (logical pixels).
+    void centreOn(const QRect& screen);
+    [[nodiscard]] Windows& windows() const { return windows_; }
+
+private:
+    friend class FormWidget;
+    void load();
+    bool requestUnload(UnloadReason reason);
+
+    FormDesign design_;
+    Windows& windows_;
+    QString tag_;
+    int loading_ = 0;
+    QPointer<FormWidget> widget_;
+};
+
+} // namespace quarvel

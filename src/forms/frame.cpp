@@ -1,0 +1,53 @@
+#include "forms/frame.h"
+
+#include <QGroupBox>
+#include <QPainter>
+#include <QPaintEvent>
+
+namespace quarvel {
+namespace {
+
+class FrameBox : public QGroupBox {
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        const int middle = fontMetrics().height() / 2;
+        const int edge = title().isEmpty() ? 0 : middle;
+        QColor line = palette().color(QPalette::WindowText);
+        line.setAlpha(110);
+        painter.setPen(line);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, edge + 0.5, -0.5, -0.5), 3, 3);
+        if (title().isEmpty()) return;
+        const QRect text(8, 0, width() - 16, fontMetrics().height());
+        const QRect used = painter.boundingRect(text, Qt::AlignLeft | Qt::TextShowMnemonic, title());
+        painter.fillRect(used.adjusted(-3, 0, 3, 0), palette().color(QPalette::Window));
+        const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+        painter.setPen(palette().color(group, QPalette::WindowText));
+        painter.drawText(text, Qt::AlignLeft | Qt::TextShowMnemonic, title());
+    }
+};
+
+ControlSpec opaque(ControlSpec spec) {
+    if (!spec.look.background.isValid()) spec.look.background = colour::face;
+    return spec;
+}
+
+} // namespace
+
+Frame::Frame(Container& container, const ControlSpec& spec)
+    : WidgetControl(container, opaque(spec), new FrameBox), Container(widget(), scaleTwips, container.controlList()) {
+    setCaption(QString::fromUtf16(spec.caption));
+}
+
+std::optional<QString> Frame::caption() const { return static_cast<const QGroupBox&>(widget()).title(); }
+
+Setting Frame::setCaption(const QString& text) {
+    static_cast<QGroupBox&>(widget()).setTitle(text);
+    setSpokenName(text);
+    return Setting::Done;
+}
+
+PictureBox::PictureBox(Container& container, const ControlSpec& spec, ScaleUnit inner)
+    : WidgetControl(container, opaque(spec), new QWidget), Container(widget(), inner, container.controlList()) {}
+
+} // namespace quarvel

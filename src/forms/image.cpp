@@ -1,0 +1,85 @@
+#include "forms/image.h"
+
+#include "forms/compiled_pictures.h"
+#include "pictures/painter.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <cmath>
+
+namespace quarvel {
+namespace {
+
+int buttonCode(Qt::MouseButton button) {
+    switch (button) {
+    case Qt::LeftButton: return 1;
+    case Qt::RightButton: return 2;
+    default: return 4;
+    }
+}
+
+class ImageArea : public QWidget {
+public:
+    Image* owner = nullptr;
+    Picture picture;
+    QPixmap compiled;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QPainter painter(this);
+        if (!picture.isNull()) {
+            paintVisible(painter, event->rect() & visibleRegion().boundingRect());
+        } else if (!compiled.isNull()) {
+            painter.setRenderHint(QPainter::SmoothPixmapTransform);
+            painter.drawPixmap(rect(), compiled);
+        }
+    }
+
+    void mousePressEvent(QMouseEvent* event) override {
+        owner->mouseDown.raise(buttonCode(event->button()), static_cast<float>(event->position().x()),
+                               static_cast<float>(event->position().y()));
+    }
+
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) owner->clicked.raise();
+    }
+
+private:
+    /// Paints `part` (logical pixels of this widget) from the picture, at the screen's own pixels.
+    void paintVisible(QPainter& painter, QRect part) {
+        if (part.isEmpty()) return;
+        const double ratio = devicePixelRatioF();
+        const QPoint from(static_cast<int>(std::floor(part.left() * ratio)), static_cast<int>(std::floor(part.top() * ratio)));
+        const QPoint to(static_cast<int>(std::ceil((part.right() + 1) * ratio)),
+                        static_cast<int>(std::ceil((part.bottom() + 1) * ratio)));
+        const QRect device(from, QSize(to.x() - from.x(), to.y() - from.y()));
+        QImage target(device.size(), QImage::Format_RGB32);
+        paintPicture(picture, QSizeF(size()) * ratio, device, target);
+        target.setDevicePixelRatio(ratio);
+        painter.drawImage(QPointF(from) / ratio, target);
+    }
+};
+
+ImageArea& areaOf(const Image& image) { return static_cast<ImageArea&>(image.widget()); }
+
+} // namespace
+
+Image::Image(Container& container, const ControlSpec& spec) : WidgetControl(container, spec, new ImageArea) {
+    ImageArea& area = areaOf(*this);
+    area.owner = this;
+    area.setAttribute(Qt::WA_OpaquePaintEvent, false);
+    if (*spec.picture != '\0') area.compiled = compiledPicture(spec.picture);
+}
+
+void Image::setPicture(const Picture& picture) {
+    ImageArea& area = areaOf(*this);
+    area.picture = picture;
+    // An opaque widget is scrolled by moving its pixels, not by painting it again.
+    area.setAttribute(Qt::WA_OpaquePaintEvent, !picture.isNull());
+    area.update();
+}
+
+const Picture& Image::picture() const { return areaOf(*this).picture; }
+
+} // namespace quarvel

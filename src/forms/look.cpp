@@ -1,0 +1,34 @@
+#include "forms/look.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+
+QFont fontOf(const Look& look) {
+    QFont font(look.face == Face::Arial ? u"Arial"_s : u"Times New Roman"_s);
+    font.setPointSizeF(look.points);
+    font.setBold(look.weight == Weight::Bold);
+    return font;
+}
+
+void applyProgramLook(QApplication& application) {
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QPalette palette(colour::face, colour::face);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+        palette.setColor(role, colour::ink);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+        palette.setColor(QPalette::Disabled, role, QColor(112, 114, 140));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Highlight, QColor(58, 66, 160));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, QColor(255, 251, 224));
+    palette.setColor(QPalette::ToolTipText, colour::ink);
+    QApplication::setPalette(palette);
+    application.setFont(fontOf({}));
+}
+
+} // namespace quarvel

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QString>
+
+class QApplication;
+
+namespace quarvel {
+
+enum class Face { Arial, TimesNewRoman };
+enum class Weight { Normal, Bold };
+
+/// How a control's text is set and coloured. A colour that is not valid leaves the toolkit's own.
+struct Look {
+    Face face = Face::Arial;
+    double points = 8.25;
+    Weight weight = Weight::Normal;
+    QColor text{};
+    QColor background{};
+};
+
+/// The colours that the windows share.
+namespace colour {
+inline constexpr QColor window{128, 128, 255};
+inline constexpr QColor face{232, 232, 244};
+inline constexpr QColor panel{224, 224, 224};
+inline constexpr QColor results{128, 64, 64};
+inline constexpr QColor ink{24, 26, 64};
+inline constexpr QColor paper{250, 250, 252};
+inline constexpr QColor accent{255, 180, 60};
+} // namespace colour
+
+[[nodiscard]] QFont fontOf(const Look& look);
+
+/// Sets the program's own style and colours, so that every desktop shows the windows as they were drawn.
+void applyProgramLook(QApplication& application);
+
+} // namespace quarvel

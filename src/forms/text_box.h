@@ -1,0 +1,59 @@
+#pragma once
+
+#include "forms/event.h"
+#include "forms/widget_control.h"
+
+#include <QString>
+
+class QLineEdit;
+class QPlainTextEdit;
+
+namespace quarvel {
+
+enum class Editing { Free, Locked };
+
+/// What a text box of either kind tells its window.
+struct TextBoxEvents {
+    Event<char16_t&> keyPress; ///< a character was typed; the handler may change it
+    Event<> keyUp;             ///< a key was released, whichever (not the repeats of a held key)
+    Event<> lostFocus;         ///< the focus went to another control of the window
+};
+
+/// A text box of one line; its text is centred.
+class TextBox : public WidgetControl {
+public:
+    TextBox(Container& container, const ControlSpec& spec);
+
+    [[nodiscard]] QString text() const;
+    /// Shows a text whole, also one longer than can be typed.
+    void setText(const QString& text);
+    /// Limits typing and pasting to this many characters; 0 for no limit.
+    void setLongestTyped(int characters);
+    void setEditing(Editing editing);
+    [[nodiscard]] bool isLocked() const;
+    void selectAll();
+
+    TextBoxEvents events;
+
+private:
+    [[nodiscard]] QLineEdit& edit() const;
+};
+
+/// A text box of many lines with a vertical scroll bar. Lines end in a single line feed.
+class MultiLineTextBox : public WidgetControl {
+public:
+    MultiLineTextBox(Container& container, const ControlSpec& spec);
+
+    [[nodiscard]] QString text() const;
+    void setText(const QString& text);
+    void setLongestTyped(int characters);
+    void setEditing(Editing editing);
+    [[nodiscard]] bool isLocked() const;
+
+    TextBoxEvents events;
+
+private:
+    [[nodiscard]] QPlainTextEdit& edit() const;
+};
+
+} // namespace quarvel

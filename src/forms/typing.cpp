@@ -1,0 +1,39 @@
+#include "forms/typing.h"
+
+#include <QKeyEvent>
+#include <algorithm>
+
+namespace quarvel {
+
+QString filteredKeys(const TextBoxEvents& events, const QString& typed) {
+    QString filtered = typed;
+    for (QChar& character : filtered) {
+        char16_t key = character.unicode();
+        events.keyPress.raise(key);
+        character = QChar(key);
+    }
+    return filtered;
+}
+
+QKeyEvent filteredKeyPress(const TextBoxEvents& events, const QKeyEvent& event) {
+    const bool printable = !event.text().isEmpty() && event.text().front().isPrint();
+    return {event.type(),
+            event.key(),
+            event.modifiers(),
+            event.nativeScanCode(),
+            event.nativeVirtualKey(),
+            event.nativeModifiers(),
+            printable ? filteredKeys(events, event.text()) : event.text(),
+            event.isAutoRepeat(),
+            static_cast<quint16>(event.count()),
+            event.device()};
+}
+
+void keepToLength(QString& text, qsizetype& cursor, qsizetype longest) {
+    const qsizetype excess = std::min(text.size() - longest, cursor);
+    if (excess <= 0) return;
+    text.remove(cursor - excess, excess);
+    cursor -= excess;
+}
+
+} // namespace quarvel

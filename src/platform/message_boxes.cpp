@@ -1,0 +1,54 @@
+#include "platform/message_boxes.h"
+
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace quarvel {
+namespace {
+
+QMessageBox::Icon iconOf(BoxIcon icon) {
+    switch (icon) {
+    case BoxIcon::Critical: return QMessageBox::Critical;
+    case BoxIcon::Question: return QMessageBox::Question;
+    case BoxIcon::Exclamation: return QMessageBox::Warning;
+    case BoxIcon::Information: return QMessageBox::Information;
+    case BoxIcon::None: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
+    switch (buttons) {
+    case Buttons::OkCancel: return QMessageBox::Ok | QMessageBox::Cancel;
+    case Buttons::YesNo: return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::Ok: break;
+    }
+    return QMessageBox::Ok;
+}
+
+void nameButton(QMessageBox& box, QMessageBox::StandardButton which, const QString& caption) {
+    if (QAbstractButton* button = box.button(which); button != nullptr && !caption.isEmpty()) button->setText(caption);
+}
+
+Answer answerOf(int button) {
+    switch (button) {
+    case QMessageBox::Ok: return Answer::Ok;
+    case QMessageBox::Yes: return Answer::Yes;
+    case QMessageBox::No: return Answer::No;
+    default: return Answer::Cancel;
+    }
+}
+
+} // namespace
+
+Answer QtMessageBoxes::show(QWidget* parent, const MessageBox& box, const ButtonCaptions& captions) {
+    QMessageBox shown(iconOf(box.icon), box.title, box.text, buttonsOf(box.buttons), parent);
+    shown.setTextFormat(Qt::PlainText);
+    nameButton(shown, QMessageBox::Ok, captions.ok);
+    nameButton(shown, QMessageBox::Cancel, captions.cancel);
+    nameButton(shown, QMessageBox::Yes, captions.yes);
+    nameButton(shown, QMessageBox::No, captions.no);
+    return answerOf(shown.exec());
+}
+
+} // namespace quarvel

@@ -1,0 +1,73 @@
+#include "platform/sound_player.h"
+
+#include "files/whole_file.h"
+#include "platform/wave_file.h"
+
+#include <QApplication>
+#include <QAudioDevice>
+#include <QAudioFormat>
+#include <QAudioSink>
+#include <QBuffer>
+#include <QLibrary>
+#include <QMediaDevices>
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+namespace {
+
+constexpr qint64 largestSoundBytes = 64 * 1024 * 1024;
+
+QAudioFormat formatOf(const WaveSound& sound) {
+    QAudioFormat format;
+    format.setSampleRate(sound.sampleRate);
+    format.setChannelCount(sound.channels);
+    format.setSampleFormat(sound.bitsPerSample == 8 ? QAudioFormat::UInt8 : QAudioFormat::Int16);
+    return format;
+}
+
+/// The sound theme's bell, through the desktop's event-sound library where there is one, else the window system's
+/// bell. The library is looked for only now: most runs never need it.
+void playDefaultSound() {
+    struct Context;
+    using Create = int (*)(Context**);
+    using Play = int (*)(Context*, unsigned, ...);
+    static Context* context = nullptr;
+    static const auto create = reinterpret_cast<Create>(QLibrary::resolve(u"canberra"_s, 0, "ca_context_create"));
+    static const auto play = reinterpret_cast<Play>(QLibrary::resolve(u"canberra"_s, 0, "ca_context_play"));
+    if (context == nullptr && create != nullptr) create(&context);
+    const bool played =
+        context != nullptr && play != nullptr && play(context, 0U, "event.id", "bell", static_cast<char*>(nullptr)) == 0;
+    if (!played) QApplication::beep();
+}
+
+} // namespace
+
+struct QtSoundPlayer::Playing {
+    QByteArray samples;
+    QBuffer source;
+    std::unique_ptr<QAudioSink> sink;
+};
+
+QtSoundPlayer::QtSoundPlayer() = default;
+QtSoundPlayer::~QtSoundPlayer() = default;
+
+void QtSoundPlayer::play(const QString& path) {
+    playing_.reset();
+    const Result<QByteArray> file = readWholeFile(path, largestSoundBytes);
+    const std::optional<WaveSound> sound = file ? readWave(file.value()) : std::nullopt;
+    if (!sound) {
+        playDefaultSound();
+        return;
+    }
+    const QAudioDevice device = QMediaDevices::defaultAudioOutput();
+    if (device.isNull()) return;
+    playing_ = std::make_unique<Playing>();
+    playing_->samples = sound->samples;
+    playing_->source.setBuffer(&playing_->samples);
+    playing_->source.open(QIODevice::ReadOnly);
+    playing_->sink = std::make_unique<QAudioSink>(device, formatOf(*sound));
+    playing_->sink->start(&playing_->source);
+}
+
+} // namespace quarvel

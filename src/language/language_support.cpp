@@ -1,0 +1,69 @@
+#include "language/language_support.h"
+
+#include "files/lookup.h"
+#include "language/profile.h"
+#include "text/strings.h"
+
+#include <QFileInfo>
+#include <algorithm>
+#include <utility>
+
+namespace quarvel {
+using namespace Qt::StringLiterals;
+namespace {
+
+/// Whether a language's name stays in the program folder as the name of a file. The name may come from a
+/// setting file that anybody can edit.
+bool isLanguageName(const QString& name) {
+    const auto refused = [](QChar letter) {
+        return letter == u'/' || letter == u'\\' || letter == u':' ||
+               letter.category() == QChar::Other_Control;
+    };
+    return !name.isEmpty() && name != u"."_s && name != u".."_s &&
+           std::none_of(name.begin(), name.end(), refused);
+}
+
+} // namespace
+
+modLanguageSupport::modLanguageSupport(QString programFolder, QString& currentLanguage)
+    : programFolder_(std::move(programFolder)), MLSCurrentLanguage(currentLanguage) {}
+
+QString modLanguageSupport::MLSGetString(const QString& number) {
+    if (MLSCurrentLanguage.isEmpty()) MLSCurrentLanguage = settingLanguage();
+    Result<QString> text = ReadIniString(languageFile(), u"Strings"_s, number);
+    return text ? text.take() : QString();
+}
+
+QStringList modLanguageSupport::languages() const {
+    QStringList names;
+    Result<QStringList> files = listFiles(programFolder_);
+    if (!files) return names;
+    for (const QString& file : files.value()) {
+        // Composed, as the setting file will give the name back: it is compared exactly.
+        const QString name = StripExtension(file).normalized(QString::NormalizationForm_C);
+        if (file.endsWith(u".lng", Qt::CaseInsensitive) && isLanguageName(name)) names.append(name);
+    }
+    names.removeDuplicates(); // the same name with .lng and .LNG
+    return names;
+}
+
+QString modLanguageSupport::settingLanguage() const {
+    Result<QString> language = ReadIniString(settingFile(), u"Language"_s, u"CurrentLanguage"_s);
+    return language ? language.take() : QString();
+}
+
+bool modLanguageSupport::settingFileExists() const { return QFileInfo(settingFile()).isFile(); }
+
+void modLanguageSupport::writeSettingLanguage(const QString& language) const {
+    WriteIniString(settingFile(), u"Language"_s, u"CurrentLanguage"_s, language);
+}
+
+/// The current language's file; an empty path, which no file has, when there can be none.
+QString modLanguageSupport::languageFile() const {
+    if (!isLanguageName(MLSCurrentLanguage)) return {};
+    return resolvePath(programFolder_, MLSCurrentLanguage + u".lng"_s);
+}
+
+QString modLanguageSupport::settingFile() const { return resolvePath(programFolder_, u"LangSetting.ini"_s); }
+
+} // namespace quarvel

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "forms/core/control.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace quarvel {
+
+/// The texts of the current language. Nothing is cached: every lookup reads the language file again, so that
+/// an edited file is seen at once.
+class modLanguageSupport {
+public:
+    /// `programFolder` holds the language files and LangSetting.ini; `currentLanguage` is the process-wide
+    /// MLSCurrentLanguage, which must outlive this object.
+    modLanguageSupport(QString programFolder, QString& currentLanguage);
+
+    /// The text of a numbered message ("0001") in the current language, or an empty text when it cannot be
+    /// had. While no language is current, the setting file is asked for one first.
+    [[nodiscard]] QString MLSGetString(const QString& number);
+
+    /// Puts the current language's texts on a window and on every control of it. Between two controls the
+    /// window handles its pending messages; the pass stops when one of them unloads the window.
+    void MLSApplyLanguage(ControlWindow& window) const;
+
+    /// The names of the language files (without ".lng") of the program folder, by name without regard to
+    /// case.
+    [[nodiscard]] QStringList languages() const;
+
+    /// The language that the setting file names; empty when it has no entry or cannot be read.
+    /// `settingFileExists` tells a missing file from one that names none.
+    [[nodiscard]] QString settingLanguage() const;
+    [[nodiscard]] bool settingFileExists() const;
+
+    /// Records a language in the setting file.
+    void writeSettingLanguage(const QString& language) const;
+
+private:
+    [[nodiscard]] QString languageFile() const;
+    [[nodiscard]] QString settingFile() const;
+
+    QString programFolder_;
+    QString& MLSCurrentLanguage;
+};
+
+} // namespace quarvel

@@ -1,0 +1,94 @@
+#include "prompts/prompts.h"
+
+#include "prompts/own_messages.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+namespace {
+
+QString numberOf(Task task) {
+    switch (task) {
+    case Task::NameAirport: return u"0110"_s;
+    case Task::ReadRecord: return u"0111"_s;
+    case Task::MakeFolders: return u"0112"_s;
+    case Task::ReadAirportPicture: return u"0113"_s;
+    case Task::ListCharts: return u"0114"_s;
+    case Task::ReadChart: return u"0115"_s;
+    case Task::ShowChart: return u"0116"_s;
+    case Task::ReadNote: return u"0117"_s;
+    case Task::SaveNotes: return u"0118"_s;
+    case Task::ChooseChartFirst: return u"0119"_s;
+    case Task::FindPrinter: return u"0120"_s;
+    case Task::Print: return u"0121"_s;
+    }
+    return {};
+}
+
+QString numberOf(Fault fault) {
+    switch (fault) {
+    case Fault::NotFound: return u"0130"_s;
+    case Fault::NotRegular: return u"0131"_s;
+    case Fault::Unreadable: return u"0132"_s;
+    case Fault::Unwritable: return u"0133"_s;
+    case Fault::DiskFull: return u"0134"_s;
+    case Fault::TooLarge: return u"0135"_s;
+    case Fault::TooShort: return u"0136"_s;
+    case Fault::Damaged: return u"0137"_s;
+    case Fault::BadName: return u"0138"_s;
+    case Fault::NotInCodePage: return u"0139"_s;
+    }
+    return {};
+}
+
+/// A line break in a language file is written as the two characters \n.
+QString withLineBreaks(QString text) { return text.replace(u"\\n"_s, u"\n"_s); }
+
+} // namespace
+
+Prompts::Prompts(modLanguageSupport& language, MessageBoxes& boxes) : language_(language), boxes_(boxes) {}
+
+QString Prompts::text(const QString& number) {
+    const QString found = withLineBreaks(language_.MLSGetString(number));
+    return found.isEmpty() ? builtInText(number) : found;
+}
+
+ButtonCaptions Prompts::captions() { return {text(u"0102"_s), text(u"0103"_s), text(u"0104"_s), text(u"0105"_s)}; }
+
+Answer Prompts::ask(Form& form, const QString& prompt, const QString& title, Buttons buttons, BoxIcon icon) {
+    const MessageBox box{language_.MLSGetString(prompt), language_.MLSGetString(title), buttons, icon};
+    const Form::OwnBox own(form);
+    return boxes_.show(form.window(), box, captions());
+}
+
+void Prompts::showFixed(Form& form, const QString& text) {
+    const Form::OwnBox own(form);
+    static_cast<void>(boxes_.show(form.window(), {text, QCoreApplication::applicationName()}, captions()));
+}
+
+void Prompts::tell(Form& form, Task task, const Failure& failure) {
+    QString reason = text(numberOf(failure.fault));
+    // Both places at once: a file's name may itself hold a percent sign.
+    reason = reason.contains(u"%2"_s) ? reason.arg(failure.path, failure.detail) : reason.arg(failure.path);
+    showOwn(form, text(numberOf(task)) + u"\n\n"_s + reason);
+}
+
+void Prompts::tell(Form& form, Task task) { showOwn(form, text(numberOf(task))); }
+
+void Prompts::printWindow(Form& form, FormPrinter& printer) {
+    switch (printer.print(*form.window())) {
+    case PrintOutcome::Printed: break;
+    case PrintOutcome::NoPrinter: tell(form, Task::FindPrinter); break;
+    case PrintOutcome::Failed: tell(form, Task::Print); break;
+    }
+}
+
+void Prompts::showOwn(Form& form, const QString& text) {
+    const Form::OwnBox own(form);
+    const MessageBox box{text, this->text(u"0101"_s), Buttons::Ok, BoxIcon::Exclamation};
+    static_cast<void>(boxes_.show(form.window(), box, captions()));
+}
+
+} // namespace quarvel

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "files/result.h"
+#include "forms/form.h"
+#include "language/language_support.h"
+#include "platform/form_printer.h"
+#include "platform/message_boxes.h"
+
+#include <QString>
+
+namespace quarvel {
+
+/// What was being done when something went wrong; each has a numbered message of its own.
+enum class Task {
+    NameAirport,       ///< a name was typed for an airport
+    ReadRecord,        ///< an airport's data file
+    MakeFolders,       ///< a new airport's folders
+    ReadAirportPicture,
+    ListCharts,
+    ReadChart,
+    ShowChart,         ///< a chart too large for its scroll bars
+    ReadNote,
+    SaveNotes,
+    ChooseChartFirst,  ///< notes were to be saved without a chart of the list on show
+    FindPrinter,
+    Print,
+};
+
+/// The window's own questions and messages, in the current language.
+class Prompts {
+public:
+    Prompts(modLanguageSupport& language, MessageBoxes& boxes);
+
+    /// Asks with the texts of two numbered messages, prompt and title.
+    [[nodiscard]] Answer ask(Form& form, const QString& prompt, const QString& title, Buttons buttons, BoxIcon icon);
+    /// Shows a fixed text, titled with the application's name.
+    void showFixed(Form& form, const QString& text);
+    /// Tells what was being done, to which file, why it failed and what to do.
+    void tell(Form& form, Task task, const Failure& failure);
+    /// Tells a refusal that concerns no file.
+    void tell(Form& form, Task task);
+
+    /// Prints a window as it looks now, and tells when that cannot be done.
+    void printWindow(Form& form, FormPrinter& printer);
+
+private:
+    [[nodiscard]] QString text(const QString& number);
+    [[nodiscard]] ButtonCaptions captions();
+    void showOwn(Form& form, const QString& text);
+
+    modLanguageSupport& language_;
+    MessageBoxes& boxes_;
+};
+
+} // namespace quarvel

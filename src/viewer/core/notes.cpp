@@ -1,0 +1,105 @@
+#include "viewer/core/notes.h"
+
+#include "files/lookup.h"
+#include "files/whole_file.h"
+#include "text/code_page.h"
+
+#include <QDir>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace quarvel {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::array sidNotes = {
+    NoteKind{u"ROTTA_", NotesBox::Text2, true},
+    NoteKind{u"ALTITUDINE_", NotesBox::Text3, false},
+    NoteKind{u"DECOLLO_", NotesBox::Text1, false},
+};
+constexpr std::array approachNotes = {NoteKind{u"MISSED_", NotesBox::Text2, false}};
+
+/// A box takes 15000 characters; anything near this size is no note, whatever its name says.
+constexpr qint64 longestNoteFileBytes = qint64{1024} * 1024;
+
+/// CR LF, lone CR and lone LF all become single line feeds.
+QString withLineFeeds(QString text) {
+    text.replace("\r\n"_L1, "\n"_L1);
+    text.replace(u'\r', u'\n');
+    return text;
+}
+
+/// Exactly one separator between the two, whether or not the folder ends in one.
+QString noteFilePath(const QString& folder, const NoteKind& kind, const QString& chartName) {
+    return QDir(folder).filePath(noteFileName(kind, chartName));
+}
+
+} // namespace
+
+std::span<const NoteKind> notesOf(Family family) {
+    switch (family) {
+    case Family::Sid: return sidNotes;
+    case Family::Approach: return approachNotes;
+    case Family::Star:
+    case Family::None: break;
+    }
+    return {};
+}
+
+QString noteFileName(const NoteKind& kind, const QString& chartName) {
+    return QString::fromUtf16(kind.prefix) + chartName + ".txt"_L1;
+}
+
+Result<QString> parseNote(const QByteArray& bytes, const QString& path) {
+    const auto start = std::find_if(bytes.cbegin(), bytes.cend(), [](char byte) { return byte != ' '; });
+    if (start == bytes.cend()) return Failure{Fault::TooShort, path, {}};
+    if (*start == '"') {
+        const auto end = std::find(start + 1, bytes.cend(), '"');
+        return withLineFeeds(decodeCodePage(QByteArrayView(start + 1, end)));
+    }
+    constexpr std::array fieldEnds = {',', '\r', '\n'};
+    const auto end = std::find_first_of(start, bytes.cend(), fieldEnds.begin(), fieldEnds.end());
+    return decodeCodePage(QByteArrayView(start, end));
+}
+
+Result<QByteArray> noteBytes(const QString& text, const QString& path) {
+    QString field = withLineFeeds(text);
+    field.replace(u'\n', "\r\n"_L1);
+    // A straight quote would end the note when it is read back; the typographic one looks the same to a
+    // reader.
+    field.replace(u'"', u'\u201D');
+    const EncodedText encoded = encodeCodePage(field);
+    if (!encoded.refused.isEmpty()) return Failure{Fault::NotInCodePage, path, encoded.refused};
+    return '"' + encoded.bytes + "\"\r\n";
+}
+
+Result<QString> loadNote(const QString& folder, const NoteKind& kind, const QString& chartName) {
+    if (!holdsExactly(folder, noteFileName(kind, chartName))) return QString();
+    const QString path = noteFilePath(folder, kind, chartName);
+    const Result<QByteArray> bytes = readWholeFile(path, longestNoteFileBytes);
+    if (!bytes) return bytes.failure();
+    return parseNote(bytes.value(), path);
+}
+
+Result<void> saveNotes(const QString& folder, Family family, const QString& chartName,
+                       const std::vector<NoteText>& texts) {
+    std::vector<std::pair<QString, QByteArray>> files;
+    for (const NoteKind& kind : notesOf(family)) {
+        const auto note = std::find_if(texts.cbegin(), texts.cend(),
+                                       [&kind](const NoteText& text) { return text.box == kind.box; });
+        if (note == texts.cend()) continue; // a box that was not given must not empty its file
+        const QString path = noteFilePath(folder, kind, chartName);
+        Result<QByteArray> bytes =
+            noteBytes(kind.writtenInCapitals ? inCapitals(note->text) : note->text, path);
+        if (!bytes) return bytes.failure();
+        files.emplace_back(path, bytes.take());
+    }
+    for (const auto& [path, bytes] : files)
+        if (Result<void> written = writeWholeFile(path, bytes); !written) return written;
+    return {};
+}
+
+} // namespace quarvel

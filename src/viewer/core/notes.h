@@ -1,0 +1,53 @@
+#pragma once
+
+#include "files/result.h"
+#include "viewer/core/catalogue.h"
+
+#include <QByteArray>
+#include <QString>
+#include <span>
+#include <vector>
+
+namespace quarvel {
+
+/// The three notes boxes of the viewer.
+enum class NotesBox { Text1, Text2, Text3 };
+
+/// Which note of a family lies in which file and is shown in which box.
+struct NoteKind {
+    const char16_t* prefix; ///< of the file's name, such as "ROTTA_"
+    NotesBox box;
+    bool writtenInCapitals;
+};
+
+/// The notes of a family, in the order in which they are read and written; none for arrivals.
+[[nodiscard]] std::span<const NoteKind> notesOf(Family family);
+
+/// The name of a note's file: prefix, chart name exactly as listed, ".txt".
+[[nodiscard]] QString noteFileName(const NoteKind& kind, const QString& chartName);
+
+/// The first field of a notes file: leading blanks skipped; quoted, up to the next quote or the end of the
+/// file; not quoted, up to the first comma or line end. Fails with TooShort when the file has no field.
+[[nodiscard]] Result<QString> parseNote(const QByteArray& bytes, const QString& path);
+
+/// The bytes of a notes file: the text in double quotes, CR LF. Line breaks inside the text become CR LF, a
+/// double quote the closing typographic quote. Fails with NotInCodePage (detail: the character).
+[[nodiscard]] Result<QByteArray> noteBytes(const QString& text, const QString& path);
+
+/// A chart's note, or an empty text when the folder lists no file of exactly that name. Fails with the faults
+/// of readWholeFile and parseNote. Line ends come back as single line feeds, as text boxes hold them.
+[[nodiscard]] Result<QString> loadNote(const QString& folder, const NoteKind& kind, const QString& chartName);
+
+/// The text of one notes box to be saved.
+struct NoteText {
+    NotesBox box;
+    QString text;
+};
+
+/// Writes all notes of a chart, each file in one step, in the family's order. The texts are all encoded
+/// before the first file is touched, so that a character that cannot be stored changes no file. The note of a
+/// box that is not among them keeps its file. Fails with those of noteBytes and writeWholeFile.
+[[nodiscard]] Result<void> saveNotes(const QString& folder, Family family, const QString& chartName,
+                                     const std::vector<NoteText>& texts);
+
+} // namespace quarvel

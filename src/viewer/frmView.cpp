@@ -1,0 +1,116 @@
+#include "viewer/frmView.h"
+
+#include "text/rounding.h"
+#include "text/strings.h"
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+namespace {
+
+constexpr double clientWidth = 11280;
+constexpr double clientHeight = 8880;
+
+// The window measures itself in a scale of its own, 12.2888 by 15 units; the chart frame's size in these units is what
+// the viewport compares the chart's pixels with.
+constexpr FormDesign design{.name = "frmView",
+                            .caption = u"Quarvel - LE CARTINE PROCEDURALI SEMPRE A PORTATA DI MANO           "
+                                       u"TASTO SX ZOOM IN - TASTO DX ZOOM OUT",
+                            .clientWidth = clientWidth,
+                            .clientHeight = clientHeight,
+                            .scale = customScale(12.2888, 15, clientWidth, clientHeight),
+                            .background = colour::window};
+
+} // namespace
+
+frmView::frmView(const frmViewNeeds& needs)
+    : FormOf(design, needs.windows), state_(needs.state), paths_(needs.paths), language_(needs.language),
+      prompts_(needs.prompts), services_(needs.services) {}
+
+void frmView::wire() {
+    c->Option1.forEach([this](int index, OptionButton& option) { option.chosen.calls(this, &frmView::Option1_Click, index); });
+    c->List1.clicked.calls(this, &frmView::List1_Click);
+    c->Text1.events.keyPress.calls(this, &frmView::Text1_KeyPress);
+    c->Text2.events.keyPress.calls(this, &frmView::Text2_KeyPress);
+    c->Text3.events.keyPress.calls(this, &frmView::Text3_KeyPress);
+    c->cmdSave.clicked.calls(this, &frmView::cmdSave_Click);
+    c->Command1.clicked.calls(this, &frmView::Command1_Click);
+    c->Command2.clicked.calls(this, &frmView::Command2_Click);
+    c->Command3.clicked.calls(this, &frmView::Command3_Click);
+    c->Command4.clicked.calls(this, &frmView::Command4_Click);
+    c->cmdStampa.clicked.calls(this, &frmView::cmdStampa_Click);
+    c->Image1.mouseDown.calls(this, &frmView::Image1_MouseDown);
+    c->HScroll1.scrolled.calls(this, &frmView::HScroll1_Scroll);
+    c->HScroll1.changed.calls(this, &frmView::HScroll1_Change);
+    c->VScroll1.scrolled.calls(this, &frmView::VScroll1_Scroll);
+    c->VScroll1.changed.calls(this, &frmView::VScroll1_Change);
+}
+
+void frmView::forgetControls() {
+    chart_.reset();
+    FormOf::forgetControls();
+}
+
+void frmView::Form_Load() {
+    chosenRow_ = -1;
+    language_.MLSApplyLanguage(*this);
+    if (c == nullptr) return;
+    giveSpokenNames();
+    TwipsPerPixelX = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelX()));
+    TwipsPerPixelY = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelY()));
+    chart_.emplace(c->Picture1, c->Image1, c->HScroll1, c->VScroll1, TwipsPerPixel{TwipsPerPixelX, TwipsPerPixelY},
+                   ZoomLevel);
+    centreOn(services_.screen.whole());
+}
+
+void frmView::Form_Activate() {
+    if (c == nullptr) return;
+    setWindowCaption(language_.MLSGetString(u"0001"_s) + u' ' + trimBlanks(state_.CurrentAirport) +
+                     language_.MLSGetString(u"0002"_s));
+    c->Option1.forEach([](int /*index*/, OptionButton& option) { option.clear(); });
+}
+
+Closing frmView::Form_QueryUnload(UnloadReason reason) {
+    return reason == UnloadReason::ControlMenu ? Closing::Cancel : Closing::GoAhead;
+}
+
+void frmView::giveSpokenNames() {
+    if (c == nullptr) return;
+    c->List1.setSpokenName(*c->Frame2.caption());
+    c->Text1.setSpokenName(*c->Frame3.caption());
+    c->Text2.setSpokenName(*c->Frame1.caption());
+    c->Text3.setSpokenName(*c->Frame4.caption());
+    c->Image1.setSpokenName(ChartName);
+}
+
+void frmView::beepIf(ZoomOutcome outcome) {
+    if (outcome == ZoomOutcome::Refused) services_.beeper.beep();
+}
+
+void frmView::Command1_Click() { beepIf(chart_->zoomInByButton()); }
+
+void frmView::Command2_Click() { beepIf(chart_->zoomOutByButton()); }
+
+void frmView::Image1_MouseDown(int button, float x, float y) { beepIf(chart_->mouseDown(button, x, y)); }
+
+void frmView::HScroll1_Scroll() { chart_->horizontalMoved(); }
+
+void frmView::HScroll1_Change() { HScroll1_Scroll(); }
+
+void frmView::VScroll1_Scroll() { chart_->verticalMoved(); }
+
+void frmView::VScroll1_Change() { VScroll1_Scroll(); }
+
+void frmView::Command3_Click() {
+    unload();
+    windows().show(WindowName::frmMain);
+}
+
+void frmView::Command4_Click() {
+    hide();
+    windows().show(WindowName::frmFS9);
+}
+
+void frmView::cmdStampa_Click() { prompts_.printWindow(*this, services_.printer); }
+
+} // namespace quarvel

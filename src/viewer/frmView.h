@@ -1,0 +1,87 @@
+#pragma once
+
+#include "archive/paths.h"
+#include "forms/form_of.h"
+#include "language/language_support.h"
+#include "platform/services.h"
+#include "prompts/prompts.h"
+#include "state/process_state.h"
+#include "viewer/core/catalogue.h"
+#include "viewer/core/notes.h"
+#include "viewer/frmView_controls.h"
+#include "viewer/viewport/chart_frame.h"
+
+#include <QString>
+#include <optional>
+#include <vector>
+
+namespace quarvel {
+
+/// What the chart viewer works with; all of it outlives the window.
+struct frmViewNeeds {
+    ProcessState& state;
+    const ArchivePaths& paths;
+    modLanguageSupport& language;
+    Prompts& prompts;
+    const Services& services;
+    Windows& windows;
+};
+
+/// The chart viewer: the charts of the current airport by family, with their notes, zoomed and panned.
+class frmView : public FormOf<frmViewControls> {
+public:
+    explicit frmView(const frmViewNeeds& needs);
+
+    // The window's fields; they survive its unloading.
+    Family FamilyMode = Family::None; ///< chosen family, as its number 0 to 3
+    QString ChartName;                ///< the chosen chart as its list item reads
+    qint32 ZoomLevel = 0;             ///< zoom-in steps minus zoom-out steps since the chart was loaded
+    qint32 TwipsPerPixelX = 0;
+    qint32 TwipsPerPixelY = 0;
+
+protected:
+    void wire() override;
+    void forgetControls() override;
+    void Form_Load() override;
+    void Form_Activate() override;
+    Closing Form_QueryUnload(UnloadReason reason) override;
+    void giveSpokenNames() override;
+
+private:
+    // Commands (frmView.cpp)
+    void Command1_Click();
+    void Command2_Click();
+    void Command3_Click();
+    void Command4_Click();
+    void cmdStampa_Click();
+    void Image1_MouseDown(int button, float x, float y);
+    void HScroll1_Scroll();
+    void HScroll1_Change();
+    void VScroll1_Scroll();
+    void VScroll1_Change();
+    void beepIf(ZoomOutcome outcome);
+
+    // Families, charts and notes (frmView_charts.cpp)
+    void Option1_Click(int index);
+    void setFamilyTexts(Family family);
+    void List1_Click();
+    [[nodiscard]] Result<std::vector<NoteText>> readNotes(const QString& chart) const;
+    void showNotes(const std::vector<NoteText>& notes);
+    void keepChosenChart();
+    void cmdSave_Click();
+    void Text1_KeyPress(char16_t& key);
+    void Text2_KeyPress(char16_t& key);
+    void Text3_KeyPress(char16_t& key);
+    [[nodiscard]] MultiLineTextBox& boxOf(NotesBox box) const;
+
+    ProcessState& state_;
+    const ArchivePaths& paths_;
+    modLanguageSupport& language_;
+    Prompts& prompts_;
+    const Services& services_;
+
+    std::optional<ChartFrame> chart_; ///< while the window is loaded
+    int chosenRow_ = -1;              ///< of the chart shown, in the list on show; -1 when it is none of this list
+};
+
+} // namespace quarvel

@@ -1,0 +1,135 @@
+#include "files/lookup.h"
+#include "text/key_filter.h"
+#include "viewer/frmView.h"
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+namespace {
+
+/// The numbered messages of a family: the captions of the notes frames and the text before the number of charts. An empty
+/// number leaves the caption empty.
+struct FamilyTexts {
+    QString frame1;
+    QString frame3;
+    QString frame4;
+    QString count;
+};
+
+FamilyTexts textsOf(Family family) {
+    switch (family) {
+    case Family::Sid: return {u"0005"_s, u"0003"_s, u"0006"_s, u"0004"_s};
+    case Family::Star: return {u"0007"_s, {}, {}, u"0008"_s};
+    case Family::Approach: return {u"0009"_s, {}, {}, u"0010"_s};
+    case Family::None: break;
+    }
+    return {};
+}
+
+} // namespace
+
+void frmView::Option1_Click(int index) {
+    const Family family = familyOfOption(index);
+    const QString folder = paths_.familyFolder(state_.CurrentAirport, familyFolderName(family));
+    if (const Result<void> listed = c->File1.setPath(folder); !listed) {
+        c->Option1[index].clear();
+        prompts_.tell(*this, Task::ListCharts, listed.failure());
+        return;
+    }
+    c->frame6.setUsable(Usable::Yes);
+    state_.FamilyFolder = folder;
+    c->List1.setItems(chartNames(c->File1.files()));
+    chosenRow_ = -1;
+    FamilyMode = family;
+    setFamilyTexts(family);
+    giveSpokenNames();
+}
+
+void frmView::setFamilyTexts(Family family) {
+    const FamilyTexts texts = textsOf(family);
+    const auto textOf = [this](const QString& number) {
+        return number.isEmpty() ? QString() : language_.MLSGetString(number);
+    };
+    c->Frame3.setCaption(textOf(texts.frame3));
+    c->Frame1.setCaption(textOf(texts.frame1));
+    c->Frame4.setCaption(textOf(texts.frame4));
+    c->lblTotProc.setCaption(textOf(texts.count) + QString::number(c->List1.count()));
+}
+
+void frmView::List1_Click() {
+    const QString chart = c->List1.selectedText();
+    // Picture and notes are read before anything is shown, so that a failure leaves the window as it was.
+    const Result<Picture> picture = Picture::read(resolvePath(c->File1.path(), chartFileName(chart)));
+    if (!picture) {
+        keepChosenChart();
+        prompts_.tell(*this, Task::ReadChart, picture.failure());
+        return;
+    }
+    const Result<std::vector<NoteText>> notes = readNotes(chart);
+    if (!notes) {
+        keepChosenChart();
+        prompts_.tell(*this, Task::ReadNote, notes.failure());
+        return;
+    }
+    if (chart_->load(picture.value()) == ChartShown::TooLarge) {
+        keepChosenChart();
+        prompts_.tell(*this, Task::ShowChart);
+        return;
+    }
+    showNotes(notes.value());
+    c->Command4.setUsable(Usable::Yes);
+    ChartName = chart;
+    state_.ChartFile = chartFileName(chart);
+    chosenRow_ = c->List1.selectedRow();
+    c->Image1.setSpokenName(ChartName);
+}
+
+void frmView::keepChosenChart() { c->List1.select(chosenRow_); }
+
+Result<std::vector<NoteText>> frmView::readNotes(const QString& chart) const {
+    std::vector<NoteText> notes;
+    for (const NoteKind& kind : notesOf(FamilyMode)) {
+        Result<QString> note = loadNote(c->File1.path(), kind, chart);
+        if (!note) return note.failure();
+        notes.push_back({kind.box, note.take()});
+    }
+    return notes;
+}
+
+void frmView::showNotes(const std::vector<NoteText>& notes) {
+    for (const NotesBox box : {NotesBox::Text1, NotesBox::Text2, NotesBox::Text3}) boxOf(box).setText({});
+    for (const NoteText& note : notes) {
+        boxOf(note.box).setEditing(Editing::Free);
+        boxOf(note.box).setText(note.text);
+    }
+}
+
+void frmView::cmdSave_Click() {
+    if (chosenRow_ < 0) {
+        prompts_.tell(*this, Task::ChooseChartFirst);
+        return;
+    }
+    const Answer answer = prompts_.ask(*this, u"0027"_s, u"0028"_s, Buttons::OkCancel, BoxIcon::None);
+    if (answer != Answer::Ok || c == nullptr) return;
+    std::vector<NoteText> texts;
+    for (const NoteKind& kind : notesOf(FamilyMode)) texts.push_back({kind.box, boxOf(kind.box).text()});
+    const Result<void> saved = saveNotes(c->File1.path(), FamilyMode, ChartName, texts);
+    if (!saved) prompts_.tell(*this, Task::SaveNotes, saved.failure());
+}
+
+void frmView::Text1_KeyPress(char16_t& key) { key = UpperCaseKey(key); }
+
+void frmView::Text2_KeyPress(char16_t& key) { key = UpperCaseKey(key); }
+
+void frmView::Text3_KeyPress(char16_t& key) { key = UpperCaseKey(key); }
+
+MultiLineTextBox& frmView::boxOf(NotesBox box) const {
+    switch (box) {
+    case NotesBox::Text1: return c->Text1;
+    case NotesBox::Text2: return c->Text2;
+    case NotesBox::Text3: break;
+    }
+    return c->Text3;
+}
+
+} // namespace quarvel

@@ -1,0 +1,29 @@
+#include "forms/look.h"
+#include "platform/services.h"
+#include "presenter/presenter.h"
+#include "shell/program.h"
+
+#include <QApplication>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(u"Quarvel"_s);
+    QApplication::setDesktopFileName(u"quarvel"_s);
+    QApplication::setQuitOnLastWindowClosed(false); // windows that wait behind others are only hidden
+    quarvel::applyProgramLook(application);
+
+    quarvel::QtMessageBoxes messageBoxes;
+    quarvel::QtSoundPlayer sounds;
+    quarvel::QtFormPrinter printer;
+    quarvel::QtUrlOpener urls;
+    quarvel::QtScreen screen;
+    quarvel::RealProcessEnd process;
+    quarvel::QtBeeper beeper;
+    quarvel::NoPresenter presenter;
+    quarvel::Program program(QApplication::applicationDirPath(),
+                             {messageBoxes, sounds, printer, urls, screen, process, beeper}, presenter);
+    program.show(quarvel::WindowName::frmMain);
+    return QApplication::exec();
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "forms/text_box.h"
+
+#include <QString>
+
+namespace quarvel {
+
+/// Who presents an airport to the user by reading its text aloud.
+class Presenter {
+public:
+    Presenter() = default;
+    Presenter(const Presenter&) = delete;
+    Presenter& operator=(const Presenter&) = delete;
+    virtual ~Presenter() = default;
+
+    /// Replaces the box's text by the whole content of a file.
+    virtual void LoadTextFile(const QString& path, MultiLineTextBox& box) = 0;
+    /// Starts one presentation of the box's text and returns at once.
+    virtual void PresentAirport(const MultiLineTextBox& box) = 0;
+};
+
+/// Nobody: the airport is opened without a presentation.
+class NoPresenter : public Presenter {
+public:
+    void LoadTextFile(const QString& /*path*/, MultiLineTextBox& /*box*/) override {}
+    void PresentAirport(const MultiLineTextBox& /*box*/) override {}
+};
+
+} // namespace quarvel

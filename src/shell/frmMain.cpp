@@ -1,0 +1,109 @@
+#include "shell/frmMain.h"
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+namespace {
+
+constexpr FormDesign design{.name = "frmMain",
+                            .caption = u"Quarvel - LE CARTINE PROCEDURALI SEMPRE A PORTATA DI MANO",
+                            .clientWidth = 10305,
+                            .clientHeight = 8925,
+                            .background = colour::window};
+
+} // namespace
+
+frmMain::frmMain(const frmMainNeeds& needs)
+    : FormOf(design, needs.windows), state_(needs.state), paths_(needs.paths), language_(needs.language),
+      prompts_(needs.prompts), services_(needs.services), presenter_(needs.presenter) {}
+
+void frmMain::wire() {
+    c->txtNomeAeroporto.events.keyPress.calls(this, &frmMain::txtNomeAeroporto_KeyPress);
+    c->txtNomeAeroporto.events.keyUp.calls(this, &frmMain::txtNomeAeroporto_KeyUp);
+    c->lstWords.clicked.calls(this, &frmMain::lstWords_Click);
+    c->cmdElabora.clicked.calls(this, &frmMain::cmdElabora_Click);
+    c->cmdGrafica.clicked.calls(this, &frmMain::cmdGrafica_Click);
+    c->cmdStampa.clicked.calls(this, &frmMain::cmdStampa_Click);
+    c->cmdAzzera.clicked.calls(this, &frmMain::cmdAzzera_Click);
+    c->cmdInfo.clicked.calls(this, &frmMain::cmdInfo_Click);
+    c->cmdEsci.clicked.calls(this, &frmMain::cmdEsci_Click);
+    c->cmdEsciMail.clicked.calls(this, &frmMain::cmdEsciMail_Click);
+    c->Label15.clicked.calls(this, &frmMain::Label15_Click);
+    c->Label15.mouseMoved.calls(this, &frmMain::Label15_MouseMove);
+    c->ImgLingua.forEach([this](int index, Image& flag) { flag.clicked.calls(this, &frmMain::ImgLingua_Click, index); });
+}
+
+void frmMain::Form_Load() {
+    MLSFillMenuLanguages();
+    language_.MLSApplyLanguage(*this);
+    giveSpokenNames();
+    centreOn(services_.screen.whole());
+}
+
+void frmMain::Form_Activate() {
+    if (c != nullptr && c->txtNomeAeroporto.isUsable()) c->txtNomeAeroporto.setFocus();
+}
+
+void frmMain::giveSpokenNames() {
+    if (c == nullptr) return;
+    const auto name = [this](int position, const Label& heading, const QString& row = {}) {
+        c->txtRwy[position].setSpokenName(*heading.caption() + row);
+    };
+    name(IcaoCode, c->Label2);
+    name(TransitionAltitude, c->Label11);
+    name(Longitude, c->Label3);
+    name(Latitude, c->Label4);
+    name(Elevation, c->Label5);
+    name(VorIdent, c->Label9);
+    name(VorFrequency, c->Label10);
+    name(NdbIdent, c->Label12);
+    name(NdbFrequency, c->Label13);
+    const std::array<const Label*, valuesPerRunwayRow> columns = {&c->Label6_0, &c->Label6_1, &c->Label6_2, &c->Label7,
+                                                                  &c->Label8};
+    for (int row = 0; row < runwayRows; ++row)
+        for (int column = 0; column < valuesPerRunwayRow; ++column)
+            name(runwayPosition(row, static_cast<RunwayColumn>(column)), *columns[static_cast<std::size_t>(column)],
+                 u" "_s + QString::number(row + 1));
+    c->txtNomeAeroporto.setSpokenName(*c->Label1.caption());
+    c->lstWords.setSpokenName(*c->Label16.caption());
+    c->ImgLingua.forEach([](int /*index*/, Image& flag) { flag.setSpokenName(*flag.toolTip()); });
+}
+
+void frmMain::setAirportDataShown(Shown shown) {
+    c->Frame4.setShown(shown);
+    c->Frame5.setShown(shown);
+    c->imgAeroporto.setShown(shown);
+    for (Label* heading : {&c->Label2, &c->Label11, &c->Label3, &c->Label4, &c->Label5}) heading->setShown(shown);
+    for (const int position : {Longitude, Latitude, Elevation, TransitionAltitude, IcaoCode})
+        c->txtRwy[position].setShown(shown);
+}
+
+void frmMain::ShowAirportData() { setAirportDataShown(Shown::Yes); }
+
+void frmMain::HideAirportData() { setAirportDataShown(Shown::No); }
+
+void frmMain::ShowDecorations() {
+    c->Image1.forEach([](int /*index*/, Image& decoration) { decoration.setShown(Shown::Yes); });
+    c->Frame2.setShown(Shown::Yes);
+}
+
+void frmMain::HideDecorations() {
+    c->Image1.forEach([](int /*index*/, Image& decoration) { decoration.setShown(Shown::No); });
+    c->Frame2.setShown(Shown::No);
+}
+
+void frmMain::UnlockFields() {
+    c->txtRwy.forEach([](int /*index*/, TextBox& field) { field.setEditing(Editing::Free); });
+}
+
+void frmMain::LockFields() {
+    c->txtRwy.forEach([](int /*index*/, TextBox& field) { field.setEditing(Editing::Locked); });
+}
+
+void frmMain::ClearAllFields() {
+    c->txtRwy.forEach([](int /*index*/, TextBox& field) { field.setText({}); });
+    c->txtNomeAeroporto.setText({});
+    c->cmdElabora.setUsable(Usable::No);
+}
+
+} // namespace quarvel

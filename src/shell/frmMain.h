@@ -1,0 +1,103 @@
+#pragma once
+
+#include "archive/listing.h"
+#include "archive/paths.h"
+#include "archive/record.h"
+#include "forms/form_of.h"
+#include "language/language_support.h"
+#include "platform/services.h"
+#include "presenter/presenter.h"
+#include "prompts/prompts.h"
+#include "shell/frmMain_controls.h"
+#include "state/process_state.h"
+
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+namespace quarvel {
+
+/// What the main window works with; all of it outlives the window.
+struct frmMainNeeds {
+    ProcessState& state;
+    const ArchivePaths& paths;
+    modLanguageSupport& language;
+    Prompts& prompts;
+    const Services& services;
+    Presenter& presenter;
+    Windows& windows;
+};
+
+/// The main window: finds and opens airports, shows and takes their data, and leads to everything else.
+class frmMain : public FormOf<frmMainControls> {
+public:
+    explicit frmMain(const frmMainNeeds& needs);
+
+    /// Where "&Uscita", "&Info" and their like are written about and the mail goes.
+    static constexpr char16_t supportAddress[] = u"supporto@quarvel.example";
+
+    /// Makes language `index` current, puts its texts on every loaded window and records it.
+    void SelectLanguage(int index);
+
+protected:
+    void wire() override;
+    void Form_Load() override;
+    void Form_Activate() override;
+    void giveSpokenNames() override;
+
+private:
+    // Window states (frmMain.cpp)
+    void ShowAirportData();
+    void HideAirportData();
+    void ShowDecorations();
+    void HideDecorations();
+    void UnlockFields();
+    void LockFields();
+    void ClearAllFields();
+    void setAirportDataShown(Shown shown);
+
+    // General commands (frmMain_commands.cpp)
+    void cmdEsci_Click();
+    void cmdInfo_Click();
+    void cmdEsciMail_Click();
+    void Label15_MouseMove();
+    void Label15_Click();
+    void cmdStampa_Click();
+    void cmdGrafica_Click();
+    void cmdAzzera_Click();
+
+    // Search and opening (frmMain_opening.cpp)
+    void txtNomeAeroporto_KeyPress(char16_t& key);
+    void txtNomeAeroporto_KeyUp();
+    void lstWords_Click();
+    void cmdElabora_Click();
+    struct Before;
+    [[nodiscard]] Before before() const;
+    void putBack(const Before& before);
+    void OpenAirport(const Before& before);
+    void offerNewAirport(const QString& name, const Before& before);
+    void backToSearch();
+    void startNewAirport(const QString& name, const Before& before);
+    void showAirport(const QString& name, const Before& before);
+    void fillFields(const AirportRecord& record);
+    void presentAirport(const QString& name);
+    void endWithoutPicture();
+
+    // Language (frmMain_language.cpp)
+    void MLSFillMenuLanguages();
+    void setCurrentLanguageAtStart();
+    void ImgLingua_Click(int index);
+    void mnuLanguage_Click(int index);
+
+    ProcessState& state_;
+    const ArchivePaths& paths_;
+    modLanguageSupport& language_;
+    Prompts& prompts_;
+    const Services& services_;
+    Presenter& presenter_;
+
+    std::optional<QStringList> languages_; ///< the language list, built once per run
+    QString presenterTextPath_;            ///< of the open airport
+};
+
+} // namespace quarvel

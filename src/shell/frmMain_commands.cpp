@@ -1,0 +1,41 @@
+#include "forms/compiled_pictures.h"
+#include "shell/frmMain.h"
+
+#include <QCursor>
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+
+void frmMain::cmdEsci_Click() {
+    if (prompts_.ask(*this, u"0011"_s, u"0012"_s, Buttons::YesNo, BoxIcon::Question) == Answer::Yes)
+        services_.process.endNow();
+}
+
+void frmMain::cmdInfo_Click() { c->fraMail.setShown(Shown::Yes); }
+
+void frmMain::cmdEsciMail_Click() { c->fraMail.setShown(Shown::No); }
+
+void frmMain::Label15_MouseMove() {
+    c->Label15.setTextColour(QColor(255, 0, 0));
+    c->Label15.setCursor(QCursor(compiledPicture("pointer"), 3, 2));
+}
+
+void frmMain::Label15_Click() { services_.urls.open(u"mailto:"_s + QString::fromUtf16(supportAddress)); }
+
+void frmMain::cmdStampa_Click() { prompts_.printWindow(*this, services_.printer); }
+
+void frmMain::cmdGrafica_Click() {
+    services_.sounds.play(paths_.programFolder() + u"/dallas9.wav"_s);
+    unload();
+    windows().show(WindowName::frmView);
+}
+
+void frmMain::cmdAzzera_Click() {
+    ClearAllFields();
+    HideAirportData();
+    c->txtNomeAeroporto.setUsable(Usable::Yes);
+    ShowDecorations();
+}
+
+} // namespace quarvel

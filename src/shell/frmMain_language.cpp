@@ -1,0 +1,60 @@
+#include "shell/frmMain.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+
+void frmMain::MLSFillMenuLanguages() {
+    const bool firstLoading = !languages_.has_value();
+    if (firstLoading) {
+        languages_ = language_.languages();
+        if (languages_->isEmpty()) prompts_.showFixed(*this, u"Non è presente alcun file di linguaggio!"_s);
+        else setCurrentLanguageAtStart();
+    }
+    c->mnuLanguage[0].clicked.calls(this, &frmMain::mnuLanguage_Click, 0);
+    for (int k = 0; k < languages_->size(); ++k) {
+        if (k > 0) {
+            MenuItem& item =
+                c->mnuLanguage.add(c->form, {.name = "mnuLanguage", .index = k}, c->mnuLanguages.menu());
+            item.clicked.calls(this, &frmMain::mnuLanguage_Click, k);
+        }
+        c->mnuLanguage[k].setCaption(languages_->at(k));
+    }
+    const qsizetype current = languages_->indexOf(state_.MLSCurrentLanguage);
+    if (current >= 0) c->mnuLanguage[static_cast<int>(current)].setChecked(true);
+    c->ImgLingua.forEach([this](int index, Image& flag) {
+        flag.setUsable(index < languages_->size() ? Usable::Yes : Usable::No);
+    });
+}
+
+void frmMain::setCurrentLanguageAtStart() {
+    if (language_.settingFileExists()) {
+        state_.MLSCurrentLanguage = language_.settingLanguage();
+        return;
+    }
+    const QString italian = u"Italiano"_s;
+    state_.MLSCurrentLanguage = languages_->contains(italian) ? italian : languages_->first();
+}
+
+void frmMain::ImgLingua_Click(int index) {
+    if ((index == 0 || index == 1) && index < languages_->size()) SelectLanguage(index);
+}
+
+void frmMain::mnuLanguage_Click(int index) { SelectLanguage(index); }
+
+void frmMain::SelectLanguage(int index) {
+    const QString language = *c->mnuLanguage[index].caption();
+    c->mnuLanguage.forEach([](int /*index*/, MenuItem& item) { item.setChecked(false); });
+    c->mnuLanguage[index].setChecked(true);
+    state_.MLSCurrentLanguage = language;
+    for (Form* form : windows().loaded()) {
+        language_.MLSApplyLanguage(*form);
+        form->giveSpokenNames();
+    }
+    // The item's caption is taken again: the language file may have renamed the item meanwhile.
+    language_.writeSettingLanguage(c != nullptr ? *c->mnuLanguage[index].caption() : language);
+}
+
+} // namespace quarvel

@@ -1,0 +1,160 @@
+#include "archive/airport_folders.h"
+#include "archive/name_rules.h"
+#include "archive/opening.h"
+#include "archive/record_file.h"
+#include "pictures/picture.h"
+#include "shell/frmMain.h"
+#include "text/key_filter.h"
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+
+/// What a failed opening puts back, so that the window is as it was before the command.
+struct frmMain::Before {
+    QString currentAirport;
+    QString currentIcao;
+    QString name;
+    Shown results;
+    Shown firstDecoration;
+    Editing fields;
+};
+
+frmMain::Before frmMain::before() const {
+    const auto shown = [](const WidgetControl& control) { return control.isShown() ? Shown::Yes : Shown::No; };
+    return {state_.CurrentAirport,
+            state_.CurrentIcao,
+            c->txtNomeAeroporto.text(),
+            shown(c->fraRicerca),
+            shown(c->Image1[1]),
+            c->txtRwy[0].isLocked() ? Editing::Locked : Editing::Free};
+}
+
+void frmMain::putBack(const Before& before) {
+    state_.CurrentAirport = before.currentAirport;
+    state_.CurrentIcao = before.currentIcao;
+    c->txtNomeAeroporto.setText(before.name);
+    c->fraRicerca.setShown(before.results);
+    c->Image1[1].setShown(before.firstDecoration);
+    before.fields == Editing::Locked ? LockFields() : UnlockFields();
+}
+
+void frmMain::txtNomeAeroporto_KeyPress(char16_t& key) { key = UpperCaseKey(key); }
+
+void frmMain::txtNomeAeroporto_KeyUp() {
+    c->cmdElabora.setUsable(Usable::Yes);
+    c->Image1[1].setShown(Shown::No);
+    c->fraRicerca.setShown(Shown::Yes);
+    const auto listing = std::make_shared<ArchiveListing>(paths_.archiveFolder(), c->txtNomeAeroporto.text());
+    c->lstWords.setRows(listing->size(), [listing](int row) { return listing->text(row); });
+}
+
+void frmMain::lstWords_Click() {
+    const Before asItWas = before();
+    const QString entry = c->lstWords.selectedText();
+    c->txtNomeAeroporto.setText(entry.mid(1, entry.size() - 2)); // without the brackets of a folder
+    c->fraRicerca.setShown(Shown::No);
+    c->Image1[1].setShown(Shown::Yes);
+    OpenAirport(asItWas);
+}
+
+void frmMain::cmdElabora_Click() { OpenAirport(before()); }
+
+void frmMain::OpenAirport(const Before& before) {
+    const QString name = c->txtNomeAeroporto.text();
+    if (const Result<void> allowed = checkAirportName(name, NameUse::Existing); !allowed) {
+        putBack(before);
+        prompts_.tell(*this, Task::NameAirport, allowed.failure());
+        return;
+    }
+    state_.CurrentAirport = name;
+    if (hasDataFile(paths_, name))
+        showAirport(name, before);
+    else
+        offerNewAirport(name, before);
+}
+
+void frmMain::offerNewAirport(const QString& name, const Before& before) {
+    UnlockFields();
+    const Answer answer = prompts_.ask(*this, u"0013"_s, u"0014"_s, Buttons::OkCancel, BoxIcon::Critical);
+    if (c == nullptr) return;
+    answer == Answer::Ok ? startNewAirport(name, before) : backToSearch();
+}
+
+void frmMain::backToSearch() {
+    HideAirportData();
+    c->Frame3.setShown(Shown::No);
+    ShowDecorations();
+    c->txtNomeAeroporto.setText({});
+    c->txtRwy[IcaoCode].setText({});
+    c->txtNomeAeroporto.setUsable(Usable::Yes);
+    c->txtNomeAeroporto.setFocus();
+    c->cmdElabora.setUsable(Usable::No);
+}
+
+void frmMain::startNewAirport(const QString& name, const Before& before) {
+    if (const Result<void> made = createAirportFolders(paths_, name); !made) {
+        putBack(before);
+        const bool refusedName = made.failure().fault == Fault::BadName;
+        prompts_.tell(*this, refusedName ? Task::NameAirport : Task::MakeFolders, made.failure());
+        return;
+    }
+    ShowAirportData();
+    c->Frame5.setShown(Shown::No);
+    c->cmdElabora.setUsable(Usable::No);
+    c->Frame3.setShown(Shown::Yes);
+    c->txtNomeAeroporto.setUsable(Usable::Yes);
+    c->txtRwy[IcaoCode].setFocus();
+}
+
+void frmMain::showAirport(const QString& name, const Before& before) {
+    const Result<AirportRecord> record = readRecord(paths_.dataFile(name));
+    if (!record) {
+        putBack(before);
+        prompts_.tell(*this, Task::ReadRecord, record.failure());
+        return;
+    }
+    // The picture is read before anything is shown, so that a damaged one leaves the window as it was.
+    const QString icao = record.value().values[IcaoCode];
+    const bool pictured = hasPicture(paths_, name, icao);
+    const Result<Picture> picture = pictured ? Picture::read(paths_.picture(name, icao)) : Picture();
+    if (!picture) {
+        putBack(before);
+        prompts_.tell(*this, Task::ReadAirportPicture, picture.failure());
+        return;
+    }
+    fillFields(record.value());
+    presentAirport(name);
+    HideDecorations();
+    ShowAirportData();
+    if (!pictured) {
+        endWithoutPicture();
+        return;
+    }
+    c->imgAeroporto.setPicture(picture.value());
+    c->cmdElabora.setUsable(Usable::No);
+    c->txtNomeAeroporto.setUsable(Usable::No);
+}
+
+void frmMain::fillFields(const AirportRecord& record) {
+    state_.CurrentIcao = record.values[IcaoCode];
+    c->txtRwy.forEach(
+        [&](int position, TextBox& field) { field.setText(record.values[static_cast<std::size_t>(position)]); });
+}
+
+void frmMain::presentAirport(const QString& name) {
+    if (state_.MLSCurrentLanguage != u"Italiano"_s) return;
+    presenterTextPath_ = paths_.presenterText(name, state_.CurrentIcao);
+    presenter_.LoadTextFile(presenterTextPath_, c->TxtFile);
+    presenter_.PresentAirport(c->TxtFile);
+}
+
+void frmMain::endWithoutPicture() {
+    static_cast<void>(prompts_.ask(*this, u"0031"_s, u"0032"_s, Buttons::Ok, BoxIcon::Information));
+    unload();
+    services_.process.endNow();
+}
+
+} // namespace quarvel

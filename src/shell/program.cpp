@@ -1,0 +1,37 @@
+#include "shell/program.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <algorithm>
+
+namespace quarvel {
+
+Program::Program(const QString& programFolder, const Services& services, Presenter& presenter)
+    : paths_(programFolder), language_(programFolder, state_.MLSCurrentLanguage),
+      prompts_(language_, services.messageBoxes), services_(services),
+      main_({state_, paths_, language_, prompts_, services_, presenter, *this}),
+      view_({state_, paths_, language_, prompts_, services_, *this}) {}
+
+void Program::show(WindowName name) {
+    // The companion window is not part of this program yet: the viewer, which it would lead back to, stands in.
+    Form& form = name == WindowName::frmMain ? static_cast<Form&>(main_) : view_;
+    if (!form.isLoaded()) inLoadingOrder_.push_back(&form);
+    form.show();
+}
+
+std::vector<Form*> Program::loaded() const {
+    std::vector<Form*> forms;
+    std::copy_if(inLoadingOrder_.begin(), inLoadingOrder_.end(), std::back_inserter(forms),
+                 [](const Form* form) { return form->isLoaded(); });
+    return forms;
+}
+
+void Program::unloaded(Form& form) {
+    std::erase(inLoadingOrder_, &form);
+    // Whoever unloads a window may show the next one in the same breath.
+    QTimer::singleShot(0, qApp, [this] {
+        if (inLoadingOrder_.empty()) QCoreApplication::quit();
+    });
+}
+
+} // namespace quarvel

@@ -56,7 +56,8 @@ QString nameOnDisk(const QString& folder, const QString& name) {
 
 QString resolvePath(const QString& root, const QString& relative) {
     QString path = root;
-    for (const QString& part : relative.split(u'/', Qt::SkipEmptyParts)) path += u'/' + nameOnDisk(path, part);
+    for (const QString& part : relative.split(u'/', Qt::SkipEmptyParts))
+        path += u'/' + nameOnDisk(path, part);
     return path;
 }
 
@@ -77,7 +78,8 @@ Result<QStringList> listFiles(const QString& folder) {
     QStringList names;
     for (const QString& name : entryNames(folder))
         if (!name.startsWith(u'.') && QFileInfo(folder + u'/' + name).isFile()) names.append(name);
-    std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) { return compareNames(a, b) < 0; });
+    std::sort(names.begin(), names.end(),
+              [](const QString& a, const QString& b) { return compareNames(a, b) < 0; });
     return names;
 }
 

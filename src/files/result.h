@@ -9,20 +9,21 @@ namespace quarvel {
 
 /// What went wrong with a file of the user's; each has a plain sentence of its own in the language files.
 enum class Fault {
-    NotFound,        ///< no such file or folder
-    NotRegular,      ///< a folder, a device or a pipe stands where a file is expected
-    Unreadable,      ///< the system refused to open or read it
-    Unwritable,      ///< the system refused to create, write or replace it
-    DiskFull,        ///< no room left for it
-    TooLarge,        ///< larger than any file of its kind can sensibly be
-    TooShort,        ///< it ends before all its values
-    Damaged,         ///< its content is not of its format
-    BadName,         ///< a name that is empty, leaves its folder or holds a refused character
-    NotInCodePage,   ///< a text with a character that the single-byte format lacks
+    NotFound,      ///< no such file or folder
+    NotRegular,    ///< a folder, a device or a pipe stands where a file is expected
+    Unreadable,    ///< the system refused to open or read it
+    Unwritable,    ///< the system refused to create, write or replace it
+    DiskFull,      ///< no room left for it
+    TooLarge,      ///< larger than any file of its kind can sensibly be
+    TooShort,      ///< it ends before all its values
+    Damaged,       ///< its content is not of its format
+    BadName,       ///< a name that is empty, leaves its folder or holds a refused character
+    NotInCodePage, ///< a text with a character that the single-byte format lacks
 };
 
-/// Why an operation did not happen. `path` names the file or folder; `detail` what in it offends (a character,
-/// a count) and is mostly empty. The system's own reason is not kept: it would be told in the wrong language.
+/// Why an operation did not happen. `path` names the file or folder; `detail` what in it offends (a
+/// character, a count) and is mostly empty. The system's own reason is not kept: it would be told in the
+/// wrong language.
 struct Failure {
     Fault fault;
     QString path;

@@ -39,7 +39,8 @@ private:
 
 Result<QByteArray> readWholeFile(const QString& path, qint64 limitBytes) {
     // Opened without blocking: a pipe without a writer would otherwise wait for one before it can be refused.
-    const Descriptor file(::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+    const Descriptor file(
+        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
     if (file.number() < 0) return readFailure(path, errno);
     struct stat info {};
     if (::fstat(file.number(), &info) != 0) return readFailure(path, errno);
@@ -49,7 +50,8 @@ Result<QByteArray> readWholeFile(const QString& path, qint64 limitBytes) {
     QByteArray bytes(static_cast<qsizetype>(info.st_size), Qt::Uninitialized);
     qsizetype got = 0;
     while (got < bytes.size()) {
-        const ssize_t count = ::read(file.number(), bytes.data() + got, static_cast<size_t>(bytes.size() - got));
+        const ssize_t count =
+            ::read(file.number(), bytes.data() + got, static_cast<size_t>(bytes.size() - got));
         if (count < 0 && errno == EINTR) continue;
         if (count < 0) return readFailure(path, errno);
         if (count == 0) break;

@@ -10,6 +10,12 @@
 namespace quarvel {
 namespace {
 
+/// A button's own colours, whatever those of the frame it lies in.
+ControlSpec coloured(ControlSpec spec) {
+    if (!spec.look.text.isValid()) spec.look.text = colour::ink;
+    return spec;
+}
+
 /// A push button drawn with its picture above its caption, in as much room as the caption leaves.
 class GraphicButton : public QPushButton {
 public:
@@ -23,7 +29,8 @@ protected:
         const int flags = Qt::AlignHCenter | Qt::AlignBottom | Qt::TextWordWrap | Qt::TextShowMnemonic;
         const QRect inside = rect().adjusted(2, 3, -2, -3).translated(0, isDown() ? 1 : 0);
         const QRect text = painter.boundingRect(inside, flags, this->text());
-        painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
+        painter.setPen(
+            palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
         painter.drawText(inside, flags, this->text());
         if (picture.isNull()) return;
         const QSize natural = picture.deviceIndependentSize().toSize();
@@ -45,8 +52,12 @@ protected:
 private:
     void paintFace(QPainter& painter) {
         const bool hovered = underMouse() && isEnabled();
-        const QColor top = isDown() ? QColor(196, 198, 226) : hovered ? QColor(255, 255, 255) : QColor(248, 248, 253);
-        const QColor bottom = isDown() ? QColor(206, 208, 234) : hovered ? QColor(232, 234, 252) : QColor(220, 221, 238);
+        const QColor top = isDown()  ? QColor(196, 198, 226)
+                           : hovered ? QColor(255, 255, 255)
+                                     : QColor(248, 248, 253);
+        const QColor bottom = isDown()  ? QColor(206, 208, 234)
+                              : hovered ? QColor(232, 234, 252)
+                                        : QColor(220, 221, 238);
         QLinearGradient face(0, 0, 0, height());
         face.setColorAt(0, top);
         face.setColorAt(1, bottom);
@@ -59,7 +70,8 @@ private:
 
 } // namespace
 
-Button::Button(Container& container, const ControlSpec& spec) : WidgetControl(container, spec, new GraphicButton) {
+Button::Button(Container& container, const ControlSpec& spec)
+    : WidgetControl(container, coloured(spec), new GraphicButton) {
     auto& graphic = static_cast<GraphicButton&>(widget());
     if (*spec.picture != '\0') graphic.picture = compiledPicture(spec.picture);
     graphic.setAttribute(Qt::WA_Hover);

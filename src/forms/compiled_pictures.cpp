@@ -5,7 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
-/// A static library's resources are known to the program only after this; outside any namespace by its nature.
+/// A static library's resources are known to the program only after this; outside any namespace by its
+/// nature.
 static void registerPictures() { Q_INIT_RESOURCE(pictures); }
 
 namespace quarvel {

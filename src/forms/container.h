@@ -12,7 +12,8 @@ namespace quarvel {
 /// window's control list.
 class Container {
 public:
-    Container(QWidget& inside, ScaleUnit unit, std::vector<Control*>& list) : inside_(inside), unit_(unit), list_(list) {}
+    Container(QWidget& inside, ScaleUnit unit, std::vector<Control*>& list)
+        : inside_(inside), unit_(unit), list_(list) {}
     Container(const Container&) = delete;
     Container& operator=(const Container&) = delete;
 

@@ -7,8 +7,8 @@
 
 namespace quarvel {
 
-/// A control array: elements of one name, each with its index, made in the order of the control list, which need not
-/// be the order of their indexes.
+/// A control array: elements of one name, each with its index, made in the order of the control list, which
+/// need not be the order of their indexes.
 template <class Kind>
 class ControlArray {
 public:

@@ -8,8 +8,8 @@ namespace quarvel {
 template <class... Args>
 class Event {
 public:
-    /// Wires the event to a window's handler. Values given after the handler (an index of a control array) are passed
-    /// in front of the event's own arguments.
+    /// Wires the event to a window's handler. Values given after the handler (an index of a control array)
+    /// are passed in front of the event's own arguments.
     template <class Window, class Handler, class... Bound>
     void calls(Window* window, Handler handler, Bound... bound) {
         handler_ = [=](Args... args) { (window->*handler)(bound..., static_cast<Args>(args)...); };

@@ -64,7 +64,9 @@ QString Form::windowTag() const { return tag_; }
 
 void Form::setWindowTag(const QString& text) { tag_ = text; }
 
-std::vector<Control*> Form::controls() const { return widget_ ? widget_->controls() : std::vector<Control*>(); }
+std::vector<Control*> Form::controls() const {
+    return widget_ ? widget_->controls() : std::vector<Control*>();
+}
 
 void Form::processPendingMessages() { QCoreApplication::processEvents(); }
 

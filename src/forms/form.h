@@ -33,8 +33,8 @@ struct FormDesign {
     Border border = Border::Fixed;
 };
 
-/// A window that outlives its widgets: loading builds them, unloading destroys them, and what the window keeps in its
-/// own fields survives. A subclass declares its controls and wires them in build().
+/// A window that outlives its widgets: loading builds them, unloading destroys them, and what the window
+/// keeps in its own fields survives. A subclass declares its controls and wires them in build().
 class Form : public ControlWindow {
 public:
     Form(const FormDesign& design, Windows& windows);
@@ -43,7 +43,8 @@ public:
     /// Shows the window; one that is not loaded is loaded first.
     void show();
     void hide();
-    /// Destroys the window's widgets as soon as the running handlers have returned; from here on it has no controls.
+    /// Destroys the window's widgets as soon as the running handlers have returned; from here on it has no
+    /// controls.
     void unload();
 
     [[nodiscard]] QString windowName() const override;

@@ -80,7 +80,8 @@ void FormWidget::centreOuterFrame() {
     const QRect screen = *centreOn_;
     centreOn_.reset();
     const QSize outer = frameGeometry().size();
-    move(screen.x() + (screen.width() - outer.width()) / 2, screen.y() + (screen.height() - outer.height()) / 2);
+    move(screen.x() + (screen.width() - outer.width()) / 2,
+         screen.y() + (screen.height() - outer.height()) / 2);
 }
 
 } // namespace quarvel

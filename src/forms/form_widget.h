@@ -9,7 +9,8 @@
 
 namespace quarvel {
 
-/// The control list of one loading of a window; a base of its widget, so that it is there before the controls.
+/// The control list of one loading of a window; a base of its widget, so that it is there before the
+/// controls.
 struct ControlListHolder {
     std::vector<Control*> list;
 };
@@ -42,7 +43,8 @@ private:
     Form* form_;
     std::shared_ptr<void> kept_;
     int ownBoxes_ = 0;
-    bool leftForOwnBox_ = false; ///< the window became inactive because of its own box and has not come back yet
+    bool leftForOwnBox_ =
+        false; ///< the window became inactive because of its own box and has not come back yet
     std::optional<QRect> centreOn_; ///< the screen, until the frame around the window is known
 };
 

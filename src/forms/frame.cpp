@@ -1,11 +1,14 @@
 #include "forms/frame.h"
 
 #include <QGroupBox>
-#include <QPainter>
 #include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
 
 namespace quarvel {
 namespace {
+
+constexpr int captionIndent = 8; // pixels from the frame's left edge
 
 class FrameBox : public QGroupBox {
 protected:
@@ -18,7 +21,8 @@ protected:
         painter.setPen(line);
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, edge + 0.5, -0.5, -0.5), 3, 3);
         if (title().isEmpty()) return;
-        const QRect text(8, 0, width() - 16, fontMetrics().height());
+        const int begin = captionIndent + std::max(0, -x()); // a frame may begin left of its window
+        const QRect text(begin, 0, width() - begin - captionIndent, fontMetrics().height());
         const QRect used = painter.boundingRect(text, Qt::AlignLeft | Qt::TextShowMnemonic, title());
         painter.fillRect(used.adjusted(-3, 0, 3, 0), palette().color(QPalette::Window));
         const auto group = isEnabled() ? QPalette::Active : QPalette::Disabled;
@@ -35,7 +39,8 @@ ControlSpec opaque(ControlSpec spec) {
 } // namespace
 
 Frame::Frame(Container& container, const ControlSpec& spec)
-    : WidgetControl(container, opaque(spec), new FrameBox), Container(widget(), scaleTwips, container.controlList()) {
+    : WidgetControl(container, opaque(spec), new FrameBox),
+      Container(widget(), scaleTwips, container.controlList()) {
     setCaption(QString::fromUtf16(spec.caption));
 }
 
@@ -48,6 +53,7 @@ Setting Frame::setCaption(const QString& text) {
 }
 
 PictureBox::PictureBox(Container& container, const ControlSpec& spec, ScaleUnit inner)
-    : WidgetControl(container, opaque(spec), new QWidget), Container(widget(), inner, container.controlList()) {}
+    : WidgetControl(container, opaque(spec), new QWidget),
+      Container(widget(), inner, container.controlList()) {}
 
 } // namespace quarvel

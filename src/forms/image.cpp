@@ -42,7 +42,8 @@ protected:
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override {
-        if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) owner->clicked.raise();
+        if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+            owner->clicked.raise();
     }
 
 private:
@@ -50,7 +51,8 @@ private:
     void paintVisible(QPainter& painter, QRect part) {
         if (part.isEmpty()) return;
         const double ratio = devicePixelRatioF();
-        const QPoint from(static_cast<int>(std::floor(part.left() * ratio)), static_cast<int>(std::floor(part.top() * ratio)));
+        const QPoint from(static_cast<int>(std::floor(part.left() * ratio)),
+                          static_cast<int>(std::floor(part.top() * ratio)));
         const QPoint to(static_cast<int>(std::ceil((part.right() + 1) * ratio)),
                         static_cast<int>(std::ceil((part.bottom() + 1) * ratio)));
         const QRect device(from, QSize(to.x() - from.x(), to.y() - from.y()));

@@ -8,8 +8,8 @@
 
 namespace quarvel {
 
-/// A stretched picture: one compiled into the program, or one of the user's. Only the part that shows is painted,
-/// from the picture as it was decoded.
+/// A stretched picture: one compiled into the program, or one of the user's. Only the part that shows is
+/// painted, from the picture as it was decoded.
 class Image : public WidgetControl {
 public:
     Image(Container& container, const ControlSpec& spec);

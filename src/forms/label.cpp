@@ -16,9 +16,12 @@ protected:
         owner->mouseMoved.raise();
         QLabel::mouseMoveEvent(event);
     }
-    void mousePressEvent(QMouseEvent* event) override { event->setAccepted(event->button() == Qt::LeftButton); }
+    void mousePressEvent(QMouseEvent* event) override {
+        event->setAccepted(event->button() == Qt::LeftButton);
+    }
     void mouseReleaseEvent(QMouseEvent* event) override {
-        if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) owner->clicked.raise();
+        if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+            owner->clicked.raise();
     }
 };
 
@@ -29,6 +32,7 @@ Label::Label(Container& container, const ControlSpec& spec) : WidgetControl(cont
     label().setTextFormat(Qt::PlainText);
     label().setAlignment(Qt::AlignCenter);
     label().setWordWrap(true);
+    label().setMargin(2);
     label().setMouseTracking(true);
     setCaption(QString::fromUtf16(spec.caption));
 }

@@ -48,7 +48,8 @@ protected:
 
 } // namespace
 
-ListBox::ListBox(Container& container, const ControlSpec& spec) : WidgetControl(container, spec, new RowsView) {
+ListBox::ListBox(Container& container, const ControlSpec& spec)
+    : WidgetControl(container, spec, new RowsView) {
     auto& rowsView = static_cast<RowsView&>(widget());
     rowsView.owner = this;
     view().setModel(&rowsView.rows);
@@ -85,7 +86,8 @@ int ListBox::selectedRow() const {
 }
 
 void ListBox::select(int row) {
-    view().selectionModel()->setCurrentIndex(view().model()->index(row, 0), QItemSelectionModel::ClearAndSelect);
+    view().selectionModel()->setCurrentIndex(view().model()->index(row, 0),
+                                             QItemSelectionModel::ClearAndSelect);
 }
 
 } // namespace quarvel

@@ -11,7 +11,8 @@ class QListView;
 
 namespace quarvel {
 
-/// A list of texts. Rows are made when they come into view, so that a list of 50,000 costs what its window shows.
+/// A list of texts. Rows are made when they come into view, so that a list of 50,000 costs what its window
+/// shows.
 class ListBox : public WidgetControl {
 public:
     ListBox(Container& container, const ControlSpec& spec);

@@ -44,7 +44,8 @@ Menu::Menu(Container& container, const ControlSpec& spec)
     action().setMenu(menu_);
 }
 
-ServiceControl::ServiceControl(Container& container, const ControlSpec& spec) : name_(QString::fromLatin1(spec.name)) {
+ServiceControl::ServiceControl(Container& container, const ControlSpec& spec)
+    : name_(QString::fromLatin1(spec.name)) {
     container.controlList().push_back(this);
 }
 

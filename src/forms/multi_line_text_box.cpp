@@ -19,9 +19,9 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
-        const bool inserts = !event->text().isEmpty() &&
-                             (event->text().front().isPrint() || event->key() == Qt::Key_Return ||
-                              event->key() == Qt::Key_Enter || event->key() == Qt::Key_Tab);
+        const bool inserts =
+            !event->text().isEmpty() && (event->text().front().isPrint() || event->key() == Qt::Key_Return ||
+                                         event->key() == Qt::Key_Enter || event->key() == Qt::Key_Tab);
         if (inserts && !(event->modifiers() & Qt::ControlModifier) && room() < 1) return;
         QKeyEvent filtered = filteredKeyPress(events_, *event);
         QPlainTextEdit::keyPressEvent(&filtered);
@@ -72,7 +72,9 @@ QString MultiLineTextBox::text() const { return edit().toPlainText(); }
 
 void MultiLineTextBox::setText(const QString& text) { edit().setPlainText(text); }
 
-void MultiLineTextBox::setLongestTyped(int characters) { static_cast<NotesEdit&>(edit()).longest = characters; }
+void MultiLineTextBox::setLongestTyped(int characters) {
+    static_cast<NotesEdit&>(edit()).longest = characters;
+}
 
 void MultiLineTextBox::setEditing(Editing editing) { edit().setReadOnly(editing == Editing::Locked); }
 

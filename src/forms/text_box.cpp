@@ -13,7 +13,8 @@
 namespace quarvel {
 namespace {
 
-/// Lets a text grow up to a limit by typing and pasting. A longer text that was there already may only shrink.
+/// Lets a text grow up to a limit by typing and pasting. A longer text that was there already may only
+/// shrink.
 class LengthLimit : public QValidator {
 public:
     using QValidator::QValidator;
@@ -63,7 +64,8 @@ protected:
         QLineEdit::focusOutEvent(event);
         const Qt::FocusReason reason = event->reason();
         // Another window or the box's own context menu in front takes no focus away inside this window.
-        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason) events_.lostFocus.raise();
+        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+            events_.lostFocus.raise();
     }
 
 private:

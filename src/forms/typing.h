@@ -14,8 +14,8 @@ namespace quarvel {
 /// The same key press with its typed text filtered.
 [[nodiscard]] QKeyEvent filteredKeyPress(const TextBoxEvents& events, const QKeyEvent& event);
 
-/// Shortens a text that was just edited so that it keeps to `longest` characters: what goes is the end of what was
-/// inserted, in front of the cursor. `cursor` follows.
+/// Shortens a text that was just edited so that it keeps to `longest` characters: what goes is the end of
+/// what was inserted, in front of the cursor. `cursor` follows.
 void keepToLength(QString& text, qsizetype& cursor, qsizetype longest);
 
 } // namespace quarvel

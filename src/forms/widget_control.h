@@ -25,8 +25,8 @@ struct ControlSpec {
     const char* picture = ""; ///< a compiled-in picture's name, for the kinds that show one
 };
 
-/// A control that is a widget. It joins its window's control list when it is made, and stands behind those declared
-/// before it, as rows of a window's table do. The widget belongs to the container's.
+/// A control that is a widget. It joins its window's control list when it is made, and stands behind those
+/// declared before it, as rows of a window's table do. The widget belongs to the container's.
 class WidgetControl : public Control {
 public:
     WidgetControl(Container& container, const ControlSpec& spec, QWidget* widget);
@@ -38,7 +38,8 @@ public:
     [[nodiscard]] std::optional<QString> tag() const override { return tag_; }
     Setting setTag(const QString& text) override;
 
-    /// Measures are kept unrounded in the container's unit and rounded to pixels once, when put on the screen.
+    /// Measures are kept unrounded in the container's unit and rounded to pixels once, when put on the
+    /// screen.
     [[nodiscard]] std::optional<double> measure(Measure which) const override;
     Setting setMeasure(Measure which, double value) override;
     /// Sets left, top, width and height, and moves on the screen once.

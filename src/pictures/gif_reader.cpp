@@ -35,7 +35,6 @@ int whiteness(std::uint32_t colour) {
 /// An index for bare paper. A palette without white gets one at an index that no pixel uses; where all 256
 /// are in use, the lightest colour has to do.
 std::uint8_t paperIndex(GifFrame& frame, const std::uint8_t* pixels) {
-    if (frame.transparent) return *frame.transparent;
     auto& palette = frame.palette;
     const auto lightest =
         std::max_element(palette.begin(), palette.end(),

@@ -11,16 +11,16 @@ namespace quarvel {
 namespace {
 
 /// More than the largest picture that is accepted can take, even when its codes save nothing.
-constexpr qint64 largestFileBytes = 256 * 1024 * 1024;
+constexpr qint64 largestFileBytes = 256'000'000;
 
 /// The index found most often on a grid of points over the picture.
 std::uint8_t commonest(const GifPicture& gif) {
-    constexpr int points = 24; // a side
+    constexpr qint64 points = 24; // a side
     std::array<int, 256> found{};
-    for (int j = 0; j < points; ++j) {
-        const qint64 y = qint64{gif.size.height()} * (2 * j + 1) / (2 * points);
-        for (int i = 0; i < points; ++i) {
-            const qint64 x = qint64{gif.size.width()} * (2 * i + 1) / (2 * points);
+    for (qint64 j = 0; j < points; ++j) {
+        const qint64 y = gif.size.height() * (2 * j + 1) / (2 * points);
+        for (qint64 i = 0; i < points; ++i) {
+            const qint64 x = gif.size.width() * (2 * i + 1) / (2 * points);
             ++found[gif.pixels[y * gif.size.width() + x]];
         }
     }

@@ -18,7 +18,8 @@ public:
     [[nodiscard]] virtual double twipsPerPixelY() const = 0;
 };
 
-/// Hands an address to the program that the desktop has chosen for its kind. Nobody examines whether that worked.
+/// Hands an address to the program that the desktop has chosen for its kind. Nobody examines whether that
+/// worked.
 class UrlOpener {
 public:
     UrlOpener() = default;

@@ -25,7 +25,8 @@ PrintOutcome QtFormPrinter::print(QWidget& window) {
     place.moveLeft((page.width() - place.width()) / 2);
     painter.drawPixmap(place, image, QRectF(image.rect()));
     const bool finished = painter.end();
-    return finished && printer.printerState() != QPrinter::Error ? PrintOutcome::Printed : PrintOutcome::Failed;
+    return finished && printer.printerState() != QPrinter::Error ? PrintOutcome::Printed
+                                                                 : PrintOutcome::Failed;
 }
 
 } // namespace quarvel

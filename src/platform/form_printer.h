@@ -16,8 +16,8 @@ public:
     [[nodiscard]] virtual PrintOutcome print(QWidget& window) = 0;
 };
 
-/// Prints on the default printer, without a dialog: the window's inside at screen resolution, as large as the page
-/// allows with its proportions kept, at the top of the page.
+/// Prints on the default printer, without a dialog: the window's inside at screen resolution, as large as the
+/// page allows with its proportions kept, at the top of the page.
 class QtFormPrinter : public FormPrinter {
 public:
     [[nodiscard]] PrintOutcome print(QWidget& window) override;

@@ -27,7 +27,8 @@ QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
 }
 
 void nameButton(QMessageBox& box, QMessageBox::StandardButton which, const QString& caption) {
-    if (QAbstractButton* button = box.button(which); button != nullptr && !caption.isEmpty()) button->setText(caption);
+    if (QAbstractButton* button = box.button(which); button != nullptr && !caption.isEmpty())
+        button->setText(caption);
 }
 
 Answer answerOf(int button) {

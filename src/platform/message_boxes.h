@@ -34,13 +34,15 @@ public:
     MessageBoxes(const MessageBoxes&) = delete;
     MessageBoxes& operator=(const MessageBoxes&) = delete;
     virtual ~MessageBoxes() = default;
-    [[nodiscard]] virtual Answer show(QWidget* parent, const MessageBox& box, const ButtonCaptions& captions) = 0;
+    [[nodiscard]] virtual Answer show(QWidget* parent, const MessageBox& box,
+                                      const ButtonCaptions& captions) = 0;
 };
 
 /// The desktop's own message boxes.
 class QtMessageBoxes : public MessageBoxes {
 public:
-    [[nodiscard]] Answer show(QWidget* parent, const MessageBox& box, const ButtonCaptions& captions) override;
+    [[nodiscard]] Answer show(QWidget* parent, const MessageBox& box,
+                              const ButtonCaptions& captions) override;
 };
 
 } // namespace quarvel

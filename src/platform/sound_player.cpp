@@ -26,18 +26,19 @@ QAudioFormat formatOf(const WaveSound& sound) {
     return format;
 }
 
-/// The sound theme's bell, through the desktop's event-sound library where there is one, else the window system's
-/// bell. The library is looked for only now: most runs never need it.
+/// The sound theme's bell, through the desktop's event-sound library where there is one, else the window
+/// system's bell. The library is looked for only now: most runs never need it.
 void playDefaultSound() {
     struct Context;
     using Create = int (*)(Context**);
     using Play = int (*)(Context*, unsigned, ...);
     static Context* context = nullptr;
-    static const auto create = reinterpret_cast<Create>(QLibrary::resolve(u"canberra"_s, 0, "ca_context_create"));
+    static const auto create =
+        reinterpret_cast<Create>(QLibrary::resolve(u"canberra"_s, 0, "ca_context_create"));
     static const auto play = reinterpret_cast<Play>(QLibrary::resolve(u"canberra"_s, 0, "ca_context_play"));
     if (context == nullptr && create != nullptr) create(&context);
-    const bool played =
-        context != nullptr && play != nullptr && play(context, 0U, "event.id", "bell", static_cast<char*>(nullptr)) == 0;
+    const bool played = context != nullptr && play != nullptr &&
+                        play(context, 0U, "event.id", "bell", static_cast<char*>(nullptr)) == 0;
     if (!played) QApplication::beep();
 }
 

@@ -12,8 +12,8 @@ public:
     SoundPlayer(const SoundPlayer&) = delete;
     SoundPlayer& operator=(const SoundPlayer&) = delete;
     virtual ~SoundPlayer() = default;
-    /// Starts a wave file and returns at once; a sound that still plays is cut off. When the file cannot be played the
-    /// desktop's default sound plays instead. Without a sound device nothing happens.
+    /// Starts a wave file and returns at once; a sound that still plays is cut off. When the file cannot be
+    /// played the desktop's default sound plays instead. Without a sound device nothing happens.
     virtual void play(const QString& path) = 0;
 };
 

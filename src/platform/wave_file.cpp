@@ -9,11 +9,13 @@ namespace {
 constexpr quint16 uncompressed = 1;
 constexpr qsizetype chunkHeader = 8; // four letters and a 32-bit length
 
-quint16 word(const QByteArray& file, qsizetype at) { return qFromLittleEndian<quint16>(file.constData() + at); }
+quint16 word(const QByteArray& file, qsizetype at) {
+    return qFromLittleEndian<quint16>(file.constData() + at);
+}
 
 bool usable(const WaveSound& sound) {
-    return sound.sampleRate >= 1000 && sound.sampleRate <= 192000 && sound.channels >= 1 && sound.channels <= 8 &&
-           (sound.bitsPerSample == 8 || sound.bitsPerSample == 16);
+    return sound.sampleRate >= 1000 && sound.sampleRate <= 192000 && sound.channels >= 1 &&
+           sound.channels <= 8 && (sound.bitsPerSample == 8 || sound.bitsPerSample == 16);
 }
 
 } // namespace
@@ -29,8 +31,8 @@ std::optional<WaveSound> readWave(const QByteArray& file) {
         if (kind == "fmt " && present >= 16) {
             if (word(file, begin) != uncompressed) return std::nullopt;
             sound.channels = word(file, begin + 2);
-            sound.sampleRate = static_cast<int>(std::min<quint32>(
-                qFromLittleEndian<quint32>(file.constData() + begin + 4), 1000000));
+            sound.sampleRate = static_cast<int>(
+                std::min<quint32>(qFromLittleEndian<quint32>(file.constData() + begin + 4), 1000000));
             sound.bitsPerSample = word(file, begin + 14);
         } else if (kind == "data") {
             sound.samples = file.mid(begin, present);

@@ -13,8 +13,8 @@ struct WaveSound {
     QByteArray samples;
 };
 
-/// Reads a RIFF WAVE file with uncompressed 8- or 16-bit samples; nothing for any other. Format: Microsoft and IBM,
-/// Multimedia Programming Interface and Data Specifications 1.0 (1991).
+/// Reads a RIFF WAVE file with uncompressed 8- or 16-bit samples; nothing for any other. Format: Microsoft
+/// and IBM, Multimedia Programming Interface and Data Specifications 1.0 (1991).
 [[nodiscard]] std::optional<WaveSound> readWave(const QByteArray& file);
 
 } // namespace quarvel

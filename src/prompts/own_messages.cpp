@@ -22,20 +22,27 @@ constexpr std::array messages = {
     OwnMessage{u"0116", u"La cartina scelta è troppo grande per essere mostrata: resta quella di prima."},
     OwnMessage{u"0117", u"Le note della cartina non possono essere lette."},
     OwnMessage{u"0118", u"Le note non sono state salvate: quelle sul disco sono rimaste come prima."},
-    OwnMessage{u"0119", u"Scegli prima una cartina dall'elenco: solo allora le sue note possono essere salvate."},
-    OwnMessage{u"0120", u"Non c'è alcuna stampante predefinita. Scegline una nelle impostazioni del sistema e riprova."},
-    OwnMessage{u"0121", u"La stampa non è riuscita. Controlla che la stampante sia accesa e pronta, poi riprova."},
+    OwnMessage{u"0119",
+               u"Scegli prima una cartina dall'elenco: solo allora le sue note possono essere salvate."},
+    OwnMessage{
+        u"0120",
+        u"Non c'è alcuna stampante predefinita. Scegline una nelle impostazioni del sistema e riprova."},
+    OwnMessage{u"0121",
+               u"La stampa non è riuscita. Controlla che la stampante sia accesa e pronta, poi riprova."},
     // Why, and what to do.
     OwnMessage{u"0130", u"Non esiste:\n%1\nControlla che sia al suo posto nell'archivio e riprova."},
     OwnMessage{u"0131", u"Non è un file normale:\n%1\nMetti al suo posto un file vero e riprova."},
     OwnMessage{u"0132", u"Il sistema non permette di leggere:\n%1\nControlla i permessi e riprova."},
-    OwnMessage{u"0133", u"Il sistema non permette di scrivere:\n%1\nControlla i permessi e che la cartella esista, poi riprova."},
+    OwnMessage{u"0133", u"Il sistema non permette di scrivere:\n%1\nControlla i permessi e che la cartella "
+                        u"esista, poi riprova."},
     OwnMessage{u"0134", u"Il disco è pieno, non c'è posto per:\n%1\nLibera dello spazio e riprova."},
     OwnMessage{u"0135", u"È troppo grande:\n%1\nControlla che sia il file giusto."},
     OwnMessage{u"0136", u"È incompleto:\n%1\nControlla che il file contenga tutti i suoi valori."},
     OwnMessage{u"0137", u"È danneggiato o di un altro formato:\n%1\nSostituiscilo con una copia buona."},
-    OwnMessage{u"0138", u"Non è un nome valido: «%1».\nUsa lettere, cifre e spazi interni, senza / \\ * ? \" < > | :"},
-    OwnMessage{u"0139", u"Contiene il carattere «%2», che il file non può conservare:\n%1\nToglilo e riprova."},
+    OwnMessage{u"0138",
+               u"Non è un nome valido: «%1».\nUsa lettere, cifre e spazi interni, senza / \\ * ? \" < > | :"},
+    OwnMessage{u"0139",
+               u"Contiene il carattere «%2», che il file non può conservare:\n%1\nToglilo e riprova."},
 };
 
 } // namespace

@@ -5,7 +5,8 @@
 
 namespace quarvel {
 
-/// A numbered message of the program's own, with the Italian text that stands in for it when the language file lacks it.
+/// A numbered message of the program's own, with the Italian text that stands in for it when the language
+/// file lacks it.
 struct OwnMessage {
     const char16_t* number;
     const char16_t* italian;

@@ -55,7 +55,9 @@ QString Prompts::text(const QString& number) {
     return found.isEmpty() ? builtInText(number) : found;
 }
 
-ButtonCaptions Prompts::captions() { return {text(u"0102"_s), text(u"0103"_s), text(u"0104"_s), text(u"0105"_s)}; }
+ButtonCaptions Prompts::captions() {
+    return {text(u"0102"_s), text(u"0103"_s), text(u"0104"_s), text(u"0105"_s)};
+}
 
 Answer Prompts::ask(Form& form, const QString& prompt, const QString& title, Buttons buttons, BoxIcon icon) {
     const MessageBox box{language_.MLSGetString(prompt), language_.MLSGetString(title), buttons, icon};
@@ -65,7 +67,9 @@ Answer Prompts::ask(Form& form, const QString& prompt, const QString& title, But
 
 void Prompts::showFixed(Form& form, const QString& text) {
     const Form::OwnBox own(form);
-    static_cast<void>(boxes_.show(form.window(), {text, QCoreApplication::applicationName()}, captions()));
+    // A lookup would make a language current: a fixed text has fixed buttons.
+    static_cast<void>(boxes_.show(form.window(), {text, QCoreApplication::applicationName()},
+                                  {builtInText(u"0102"_s), {}, {}, {}}));
 }
 
 void Prompts::tell(Form& form, Task task, const Failure& failure) {

@@ -12,16 +12,16 @@ namespace quarvel {
 
 /// What was being done when something went wrong; each has a numbered message of its own.
 enum class Task {
-    NameAirport,       ///< a name was typed for an airport
-    ReadRecord,        ///< an airport's data file
-    MakeFolders,       ///< a new airport's folders
+    NameAirport, ///< a name was typed for an airport
+    ReadRecord,  ///< an airport's data file
+    MakeFolders, ///< a new airport's folders
     ReadAirportPicture,
     ListCharts,
     ReadChart,
-    ShowChart,         ///< a chart too large for its scroll bars
+    ShowChart, ///< a chart too large for its scroll bars
     ReadNote,
     SaveNotes,
-    ChooseChartFirst,  ///< notes were to be saved without a chart of the list on show
+    ChooseChartFirst, ///< notes were to be saved without a chart of the list on show
     FindPrinter,
     Print,
 };
@@ -32,7 +32,8 @@ public:
     Prompts(modLanguageSupport& language, MessageBoxes& boxes);
 
     /// Asks with the texts of two numbered messages, prompt and title.
-    [[nodiscard]] Answer ask(Form& form, const QString& prompt, const QString& title, Buttons buttons, BoxIcon icon);
+    [[nodiscard]] Answer ask(Form& form, const QString& prompt, const QString& title, Buttons buttons,
+                             BoxIcon icon);
     /// Shows a fixed text, titled with the application's name.
     void showFixed(Form& form, const QString& text);
     /// Tells what was being done, to which file, why it failed and what to do.

@@ -30,7 +30,8 @@ void frmMain::wire() {
     c->cmdEsciMail.clicked.calls(this, &frmMain::cmdEsciMail_Click);
     c->Label15.clicked.calls(this, &frmMain::Label15_Click);
     c->Label15.mouseMoved.calls(this, &frmMain::Label15_MouseMove);
-    c->ImgLingua.forEach([this](int index, Image& flag) { flag.clicked.calls(this, &frmMain::ImgLingua_Click, index); });
+    c->ImgLingua.forEach(
+        [this](int index, Image& flag) { flag.clicked.calls(this, &frmMain::ImgLingua_Click, index); });
 }
 
 void frmMain::Form_Load() {
@@ -58,12 +59,12 @@ void frmMain::giveSpokenNames() {
     name(VorFrequency, c->Label10);
     name(NdbIdent, c->Label12);
     name(NdbFrequency, c->Label13);
-    const std::array<const Label*, valuesPerRunwayRow> columns = {&c->Label6_0, &c->Label6_1, &c->Label6_2, &c->Label7,
-                                                                  &c->Label8};
+    const std::array<const Label*, valuesPerRunwayRow> columns = {&c->Label6_0, &c->Label6_1, &c->Label6_2,
+                                                                  &c->Label7, &c->Label8};
     for (int row = 0; row < runwayRows; ++row)
         for (int column = 0; column < valuesPerRunwayRow; ++column)
-            name(runwayPosition(row, static_cast<RunwayColumn>(column)), *columns[static_cast<std::size_t>(column)],
-                 u" "_s + QString::number(row + 1));
+            name(runwayPosition(row, static_cast<RunwayColumn>(column)),
+                 *columns[static_cast<std::size_t>(column)], u" "_s + QString::number(row + 1));
     c->txtNomeAeroporto.setSpokenName(*c->Label1.caption());
     c->lstWords.setSpokenName(*c->Label16.caption());
     c->ImgLingua.forEach([](int /*index*/, Image& flag) { flag.setSpokenName(*flag.toolTip()); });
@@ -73,7 +74,8 @@ void frmMain::setAirportDataShown(Shown shown) {
     c->Frame4.setShown(shown);
     c->Frame5.setShown(shown);
     c->imgAeroporto.setShown(shown);
-    for (Label* heading : {&c->Label2, &c->Label11, &c->Label3, &c->Label4, &c->Label5}) heading->setShown(shown);
+    for (Label* heading : {&c->Label2, &c->Label11, &c->Label3, &c->Label4, &c->Label5})
+        heading->setShown(shown);
     for (const int position : {Longitude, Latitude, Elevation, TransitionAltitude, IcaoCode})
         c->txtRwy[position].setShown(shown);
 }

@@ -27,7 +27,8 @@ Look entryOf(double points) {
 void addEntry(frmMainControls& all, Container& container, int position, const Place& place, Shown shown,
               double points = frmMainControls::entryLook.points) {
     TextBox& field = all.txtRwy.add(
-        container, {.name = "txtRwy", .index = position, .place = place, .shown = shown, .look = entryOf(points)});
+        container,
+        {.name = "txtRwy", .index = position, .place = place, .shown = shown, .look = entryOf(points)});
     field.setLongestTyped(longestTyped(position));
     field.setEditing(Editing::Locked);
 }
@@ -39,7 +40,8 @@ void setEntryCursor(frmMainControls& all) {
     all.txtRwy.forEach([&](int /*index*/, TextBox& field) { field.setCursor(cursor); });
 }
 
-/// Name box, ICAO code, the rest of the general data, the navigation aids, the runway rows; then the commands.
+/// Name box, ICAO code, the rest of the general data, the navigation aids, the runway rows; then the
+/// commands.
 void setTabOrder(frmMainControls& all) {
     std::vector<QWidget*> order = {&all.txtNomeAeroporto.widget()};
     for (const int position : {IcaoCode, TransitionAltitude, Longitude, Latitude, Elevation})
@@ -62,7 +64,8 @@ void setTabOrder(frmMainControls& all) {
 } // namespace
 
 frmMainControls::frmMainControls(Container& window) : form(window) {
-    mnuLanguage.add(form, {.name = "mnuLanguage", .index = 0, .caption = u"mnuLanguage 0"}, mnuLanguages.menu());
+    mnuLanguage.add(form, {.name = "mnuLanguage", .index = 0, .caption = u"mnuLanguage 0"},
+                    mnuLanguages.menu());
     Image1.forEach([](int /*index*/, Image& decoration) { decoration.sendToBack(); });
     fraMail.bringToFront();
     setEntryCursor(*this);
@@ -82,15 +85,21 @@ frmMainControls::RunwayGrid::RunwayGrid(frmMainControls& all) {
     int position = FirstRunwayRow;
     for (int row = 0; row < runwayRows; ++row)
         for (const Column& column : columns)
-            addEntry(all, all.Frame4, position++, {column.left, 1920.0 + 600.0 * row, column.width, entryHeight},
-                     Shown::Yes);
+            addEntry(all, all.Frame4, position++,
+                     {column.left, 1920.0 + 600.0 * row, column.width, entryHeight}, Shown::Yes);
 }
 
 frmMainControls::Flags::Flags(frmMainControls& all) {
-    all.ImgLingua.add(all.Frame2, {.name = "ImgLingua", .index = 0, .place = {150, 480, 825, 555},
-                                   .toolTip = u"Clicca per la lingua Inglese", .picture = "flag_0"});
-    all.ImgLingua.add(all.Frame2, {.name = "ImgLingua", .index = 1, .place = {1080, 480, 825, 555},
-                                   .toolTip = u"Clicca per la lingua Italiana", .picture = "flag_1"});
+    all.ImgLingua.add(all.Frame2, {.name = "ImgLingua",
+                                   .index = 0,
+                                   .place = {150, 480, 825, 555},
+                                   .toolTip = u"Clicca per la lingua Inglese",
+                                   .picture = "flag_0"});
+    all.ImgLingua.add(all.Frame2, {.name = "ImgLingua",
+                                   .index = 1,
+                                   .place = {1080, 480, 825, 555},
+                                   .toolTip = u"Clicca per la lingua Italiana",
+                                   .picture = "flag_1"});
 }
 
 frmMainControls::GeneralData::GeneralData(frmMainControls& all) {
@@ -105,8 +114,8 @@ frmMainControls::GeneralData::GeneralData(frmMainControls& all) {
                                               {Latitude, {2880, 855}, 8.25},
                                               {Elevation, {3840, 735}, 9.75}}};
     for (const Field& field : fields)
-        addEntry(all, all.Frame1, field.position, {field.column.left, 1680, field.column.width, entryHeight}, Shown::No,
-                 field.points);
+        addEntry(all, all.Frame1, field.position, {field.column.left, 1680, field.column.width, entryHeight},
+                 Shown::No, field.points);
 }
 
 frmMainControls::Decorations::Decorations(frmMainControls& all) {
@@ -125,8 +134,9 @@ frmMainControls::Decorations::Decorations(frmMainControls& all) {
                                                      {{5400, 7440, 2010, 1455}, "Image1_8"}}};
     int index = 0;
     for (const Decoration& decoration : pictures)
-        all.Image1.add(all.form, {.name = "Image1", .index = index++, .place = decoration.place,
-                                  .picture = decoration.picture});
+        all.Image1.add(
+            all.form,
+            {.name = "Image1", .index = index++, .place = decoration.place, .picture = decoration.picture});
 }
 
 } // namespace quarvel

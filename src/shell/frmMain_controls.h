@@ -11,8 +11,9 @@
 
 namespace quarvel {
 
-/// The main window's controls, a row each, in the order of its control list: name, place in twips inside the container
-/// (left, top, width, height), built-in texts, initial state. Earlier rows stand in front of later ones.
+/// The main window's controls, a row each, in the order of its control list: name, place in twips inside the
+/// container (left, top, width, height), built-in texts, initial state. Earlier rows stand in front of later
+/// ones.
 struct frmMainControls {
     explicit frmMainControls(Container& window);
 
@@ -27,7 +28,8 @@ struct frmMainControls {
     static constexpr Look titleLook{Face::TimesNewRoman, 14.25, Weight::Bold, colour::ink, colour::window};
     static constexpr Look entryLook{Face::Arial, 14.25, Weight::Bold, QColor(0, 0, 0), QColor(255, 255, 255)};
     static constexpr Look informationLook{Face::Arial, 9.75, Weight::Bold, QColor(255, 255, 0)};
-    static constexpr Look addressLook{Face::Arial, 15.75, Weight::Bold, QColor(0, 0, 255), QColor(255, 255, 192)};
+    static constexpr Look addressLook{Face::Arial, 15.75, Weight::Bold, QColor(0, 0, 255),
+                                      QColor(255, 255, 192)};
 
     // clang-format off
     Frame     fraRicerca {form,       {.name = "fraRicerca", .place = {5400, 0, 4935, 2775}, .shown = Shown::No, .look = {.text = QColor(255, 255, 255), .background = colour::results}}};

@@ -10,8 +10,10 @@ void frmMain::MLSFillMenuLanguages() {
     const bool firstLoading = !languages_.has_value();
     if (firstLoading) {
         languages_ = language_.languages();
-        if (languages_->isEmpty()) prompts_.showFixed(*this, u"Non è presente alcun file di linguaggio!"_s);
-        else setCurrentLanguageAtStart();
+        if (languages_->isEmpty())
+            prompts_.showFixed(*this, u"Non è presente alcun file di linguaggio!"_s);
+        else
+            setCurrentLanguageAtStart();
     }
     c->mnuLanguage[0].clicked.calls(this, &frmMain::mnuLanguage_Click, 0);
     for (int k = 0; k < languages_->size(); ++k) {

@@ -23,13 +23,12 @@ struct frmMain::Before {
 };
 
 frmMain::Before frmMain::before() const {
-    const auto shown = [](const WidgetControl& control) { return control.isShown() ? Shown::Yes : Shown::No; };
-    return {state_.CurrentAirport,
-            state_.CurrentIcao,
-            c->txtNomeAeroporto.text(),
-            shown(c->fraRicerca),
-            shown(c->Image1[1]),
-            c->txtRwy[0].isLocked() ? Editing::Locked : Editing::Free};
+    const auto shown = [](const WidgetControl& control) {
+        return control.isShown() ? Shown::Yes : Shown::No;
+    };
+    return {state_.CurrentAirport,      state_.CurrentIcao,
+            c->txtNomeAeroporto.text(), shown(c->fraRicerca),
+            shown(c->Image1[1]),        c->txtRwy[0].isLocked() ? Editing::Locked : Editing::Free};
 }
 
 void frmMain::putBack(const Before& before) {
@@ -140,8 +139,9 @@ void frmMain::showAirport(const QString& name, const Before& before) {
 
 void frmMain::fillFields(const AirportRecord& record) {
     state_.CurrentIcao = record.values[IcaoCode];
-    c->txtRwy.forEach(
-        [&](int position, TextBox& field) { field.setText(record.values[static_cast<std::size_t>(position)]); });
+    c->txtRwy.forEach([&](int position, TextBox& field) {
+        field.setText(record.values[static_cast<std::size_t>(position)]);
+    });
 }
 
 void frmMain::presentAirport(const QString& name) {

@@ -13,7 +13,8 @@ Program::Program(const QString& programFolder, const Services& services, Present
       view_({state_, paths_, language_, prompts_, services_, *this}) {}
 
 void Program::show(WindowName name) {
-    // The companion window is not part of this program yet: the viewer, which it would lead back to, stands in.
+    // The companion window is not part of this program yet: the viewer, which it would lead back to, stands
+    // in.
     Form& form = name == WindowName::frmMain ? static_cast<Form&>(main_) : view_;
     if (!form.isLoaded()) inLoadingOrder_.push_back(&form);
     form.show();

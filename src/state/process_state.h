@@ -6,18 +6,19 @@ namespace quarvel {
 
 /// The values that the windows share, for the life of the process; they survive the unloading of windows.
 struct ProcessState {
-    /// The name of the airport opened in the main window, as in its name box. Written when an airport is opened; read by
-    /// the chart viewer to find the family folders and for its caption.
+    /// The name of the airport opened in the main window, as in its name box. Written when an airport is
+    /// opened; read by the chart viewer to find the family folders and for its caption.
     QString CurrentAirport;
-    /// The ICAO code of that airport. Written when its record is read; read for the picture's and the presenter
-    /// text's paths.
+    /// The ICAO code of that airport. Written when its record is read; read for the picture's and the
+    /// presenter text's paths.
     QString CurrentIcao;
-    /// The family folder last chosen in the viewer, ending in a separator. Written by the viewer; for the companion window.
+    /// The family folder last chosen in the viewer, ending in a separator. Written by the viewer; for the
+    /// companion window.
     QString FamilyFolder;
     /// The file name of the chart last chosen in the viewer. Written by the viewer; for the companion window.
     QString ChartFile;
-    /// The current language's name, empty at start. Written by the language list, by a selection and by the first lookup
-    /// while it is empty; read by every lookup and by the opening of an airport.
+    /// The current language's name, empty at start. Written by the language list, by a selection and by the
+    /// first lookup while it is empty; read by every lookup and by the opening of an airport.
     QString MLSCurrentLanguage;
 };
 

@@ -11,8 +11,8 @@ namespace {
 constexpr double clientWidth = 11280;
 constexpr double clientHeight = 8880;
 
-// The window measures itself in a scale of its own, 12.2888 by 15 units; the chart frame's size in these units is what
-// the viewport compares the chart's pixels with.
+// The window measures itself in a scale of its own, 12.2888 by 15 units; the chart frame's size in these
+// units is what the viewport compares the chart's pixels with.
 constexpr FormDesign design{.name = "frmView",
                             .caption = u"Quarvel - LE CARTINE PROCEDURALI SEMPRE A PORTATA DI MANO           "
                                        u"TASTO SX ZOOM IN - TASTO DX ZOOM OUT",
@@ -28,7 +28,9 @@ frmView::frmView(const frmViewNeeds& needs)
       prompts_(needs.prompts), services_(needs.services) {}
 
 void frmView::wire() {
-    c->Option1.forEach([this](int index, OptionButton& option) { option.chosen.calls(this, &frmView::Option1_Click, index); });
+    c->Option1.forEach([this](int index, OptionButton& option) {
+        option.chosen.calls(this, &frmView::Option1_Click, index);
+    });
     c->List1.clicked.calls(this, &frmView::List1_Click);
     c->Text1.events.keyPress.calls(this, &frmView::Text1_KeyPress);
     c->Text2.events.keyPress.calls(this, &frmView::Text2_KeyPress);
@@ -58,8 +60,8 @@ void frmView::Form_Load() {
     giveSpokenNames();
     TwipsPerPixelX = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelX()));
     TwipsPerPixelY = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelY()));
-    chart_.emplace(c->Picture1, c->Image1, c->HScroll1, c->VScroll1, TwipsPerPixel{TwipsPerPixelX, TwipsPerPixelY},
-                   ZoomLevel);
+    chart_.emplace(c->Picture1, c->Image1, c->HScroll1, c->VScroll1,
+                   TwipsPerPixel{TwipsPerPixelX, TwipsPerPixelY}, ZoomLevel);
     centreOn(services_.screen.whole());
 }
 

@@ -81,7 +81,7 @@ private:
     const Services& services_;
 
     std::optional<ChartFrame> chart_; ///< while the window is loaded
-    int chosenRow_ = -1;              ///< of the chart shown, in the list on show; -1 when it is none of this list
+    int chosenRow_ = -1; ///< of the chart shown, in the list on show; -1 when it is none of this list
 };
 
 } // namespace quarvel

@@ -7,8 +7,8 @@ using namespace Qt::StringLiterals;
 namespace quarvel {
 namespace {
 
-/// The numbered messages of a family: the captions of the notes frames and the text before the number of charts. An empty
-/// number leaves the caption empty.
+/// The numbered messages of a family: the captions of the notes frames and the text before the number of
+/// charts. An empty number leaves the caption empty.
 struct FamilyTexts {
     QString frame1;
     QString frame3;

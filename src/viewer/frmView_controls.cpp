@@ -16,8 +16,8 @@ frmViewControls::frmViewControls(Container& window) : form(window) {
     }
     // From top to bottom, as the window reads.
     const std::array<const WidgetControl*, 13> order = {
-        &Option1[0], &Option1[1], &Option1[2], &List1, &Text2, &Text1, &Text3, &Command2, &Command1, &cmdStampa,
-        &cmdSave, &Command3, &Command4};
+        &Option1[0], &Option1[1], &Option1[2], &List1,   &Text2,    &Text1,   &Text3,
+        &Command2,   &Command1,   &cmdStampa,  &cmdSave, &Command3, &Command4};
     for (std::size_t i = 1; i < order.size(); ++i)
         QWidget::setTabOrder(&order[i - 1]->widget(), &order[i]->widget());
 }
@@ -25,13 +25,18 @@ frmViewControls::frmViewControls(Container& window) : form(window) {
 frmViewControls::Options::Options(frmViewControls& all) {
     struct Option {
         double left;
+        double width;
         const char16_t* caption;
     };
-    constexpr std::array<Option, 3> options = {{{240, u"SID"}, {1440, u"STAR"}, {2760, u"APPROACH"}}};
+    constexpr std::array<Option, 3> options = {
+        {{240, 1100, u"SID"}, {1440, 1220, u"STAR"}, {2760, 2100, u"APPROACH"}}};
     int index = 0;
     for (const Option& option : options)
-        all.Option1.add(all.Frame2, {.name = "Option1", .index = index++, .place = {option.left, 480, 1200, 300},
-                                     .caption = option.caption, .look = bold});
+        all.Option1.add(all.Frame2, {.name = "Option1",
+                                     .index = index++,
+                                     .place = {option.left, 480, option.width, 300},
+                                     .caption = option.caption,
+                                     .look = bold});
 }
 
 } // namespace quarvel

@@ -12,8 +12,9 @@
 
 namespace quarvel {
 
-/// The chart viewer's controls, a row each, in the order of its control list: name, place in twips inside the container
-/// (left, top, width, height), built-in texts, initial state. Earlier rows stand in front of later ones.
+/// The chart viewer's controls, a row each, in the order of its control list: name, place in twips inside the
+/// container (left, top, width, height), built-in texts, initial state. Earlier rows stand in front of later
+/// ones.
 struct frmViewControls {
     explicit frmViewControls(Container& window);
 
@@ -21,7 +22,8 @@ struct frmViewControls {
     ControlArray<OptionButton> Option1; ///< SID, STAR, APPROACH
 
     static constexpr Look bold{.weight = Weight::Bold};
-    static constexpr Look notesLook{Face::Arial, 9.75, Weight::Normal, QColor(0, 0, 0), QColor(255, 255, 255)};
+    static constexpr Look notesLook{Face::Arial, 9.75, Weight::Normal, QColor(0, 0, 0),
+                                    QColor(255, 255, 255)};
     static constexpr Look listLook{Face::Arial, 9.75, Weight::Bold, QColor(0, 0, 0), QColor(255, 255, 255)};
     static constexpr Look countLook{Face::TimesNewRoman, 12, Weight::Bold, colour::ink, colour::window};
 

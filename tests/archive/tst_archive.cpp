@@ -50,6 +50,12 @@ QStringList below(const QString& folder) {
 
 class TestArchive : public QObject {
     Q_OBJECT
+
+    [[nodiscard]] QString at(const QString& name) const { return temp_->path() + u'/' + name; }
+
+    std::unique_ptr<QTemporaryDir> temp_;
+    std::unique_ptr<ArchivePaths> paths_;
+
 private Q_SLOTS:
     void init() {
         temp_ = std::make_unique<QTemporaryDir>();
@@ -269,12 +275,6 @@ private Q_SLOTS:
         QCOMPARE(paths_->presenterTextForWriting(u"lirf"_s, u"LIRF"_s),
                  at(u"Aeroporti/LIRF/LIRF_Agent.txt"_s));
     }
-
-private:
-    [[nodiscard]] QString at(const QString& name) const { return temp_->path() + u'/' + name; }
-
-    std::unique_ptr<QTemporaryDir> temp_;
-    std::unique_ptr<ArchivePaths> paths_;
 };
 
 QTEST_GUILESS_MAIN(TestArchive)

@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <random>
 #include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
 
 using namespace quarvel;
 using namespace Qt::StringLiterals;
@@ -19,7 +21,20 @@ QStringList rows(const ArchiveListing& listing) {
     return texts;
 }
 
-void makeFolder(const QByteArray& path) { QCOMPARE(::mkdir(path.constData(), 0777), 0); }
+/// A folder whose name need not be text; QTemporaryDir could not take it away again.
+class RawFolder {
+public:
+    explicit RawFolder(QByteArray path) : path_(std::move(path)) {
+        made = ::mkdir(path_.constData(), 0777) == 0;
+    }
+    ~RawFolder() { ::rmdir(path_.constData()); }
+    RawFolder(const RawFolder&) = delete;
+    RawFolder& operator=(const RawFolder&) = delete;
+    bool made = false;
+
+private:
+    QByteArray path_;
+};
 
 } // namespace
 
@@ -79,9 +94,10 @@ private Q_SLOTS:
     void undecodableNamesAreListed() {
         const QTemporaryDir temp;
         const QByteArray folder = QFile::encodeName(temp.path()) + '/';
-        makeFolder(folder + "LI\xCC");
-        makeFolder(folder + "LI\xFF\xFE");
-        makeFolder(folder + "\xE8");
+        const RawFolder oneByte(folder + "LI\xCC");
+        const RawFolder twoBytes(folder + "LI\xFF\xFE");
+        const RawFolder nothingElse(folder + "\xE8");
+        QVERIFY(oneByte.made && twoBytes.made && nothingElse.made);
         QCOMPARE(rows(ArchiveListing(temp.path(), u"li"_s)),
                  (QStringList{u"[LI\uFFFD]"_s, u"[LI\uFFFD\uFFFD]"_s}));
         QCOMPARE(ArchiveListing(temp.path(), u"*"_s).size(), 3);

@@ -52,6 +52,12 @@ private:
 
 class TestFiles : public QObject {
     Q_OBJECT
+
+    [[nodiscard]] QString at(const QString& name) const { return root_ + u'/' + name; }
+
+    std::unique_ptr<QTemporaryDir> temp_;
+    QString root_;
+
 private Q_SLOTS:
     void init() {
         temp_ = std::make_unique<QTemporaryDir>();
@@ -197,12 +203,6 @@ private Q_SLOTS:
         QVERIFY(!result.ok());
         QTEST(static_cast<int>(result.failure().fault), "fault");
     }
-
-private:
-    [[nodiscard]] QString at(const QString& name) const { return root_ + u'/' + name; }
-
-    std::unique_ptr<QTemporaryDir> temp_;
-    QString root_;
 };
 
 QTEST_GUILESS_MAIN(TestFiles)

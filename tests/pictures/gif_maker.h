@@ -124,15 +124,17 @@ inline std::vector<std::uint8_t> interlacedRows(const std::vector<std::uint8_t>&
     return stored;
 }
 
-inline int tableBits(const GifRecipe& recipe) {
+using Colours = std::vector<std::uint32_t>;
+
+inline int tableBits(const Colours& colours) {
     int bits = 1;
-    while ((std::size_t{1} << bits) < recipe.colours.size()) ++bits;
+    while ((std::size_t{1} << bits) < colours.size()) ++bits;
     return bits;
 }
 
-inline void table(QByteArray& out, const GifRecipe& recipe) {
-    for (std::size_t i = 0; i < std::size_t{1} << tableBits(recipe); ++i) {
-        const std::uint32_t colour = i < recipe.colours.size() ? recipe.colours[i] : 0;
+inline void table(QByteArray& out, const Colours& colours) {
+    for (std::size_t i = 0; i < std::size_t{1} << tableBits(colours); ++i) {
+        const std::uint32_t colour = i < colours.size() ? colours[i] : 0;
         for (const int shift : {16, 8, 0}) out.append(static_cast<char>(colour >> shift & 255));
     }
 }
@@ -141,10 +143,10 @@ inline void frame(QByteArray& out, const GifRecipe& recipe) {
     out.append(',');
     for (const int value : {recipe.place.x(), recipe.place.y(), recipe.place.width(), recipe.place.height()})
         word(out, value);
-    const int tableFlags = recipe.localTable ? 0x80 | (tableBits(recipe) - 1) : 0;
+    const int tableFlags = recipe.localTable ? 0x80 | (tableBits(recipe.colours) - 1) : 0;
     out.append(static_cast<char>(tableFlags | (recipe.interlaced ? 0x40 : 0)));
-    if (recipe.localTable) table(out, recipe);
-    const auto rootBits = static_cast<unsigned>(std::max(2, tableBits(recipe)));
+    if (recipe.localTable) table(out, recipe.colours);
+    const auto rootBits = static_cast<unsigned>(std::max(2, tableBits(recipe.colours)));
     out.append(static_cast<char>(rootBits));
     const auto& rows = recipe.interlaced ? interlacedRows(recipe.pixels, recipe.place.size()) : recipe.pixels;
     subBlocks(out, recipe.packing == Packing::Literals ? literals(rows, rootBits)
@@ -158,9 +160,11 @@ inline QByteArray makeGif(const GifRecipe& recipe) {
     QByteArray out("GIF89a");
     word(out, recipe.screen.width());
     word(out, recipe.screen.height());
-    out.append(static_cast<char>(recipe.localTable ? 0 : 0x80 | (tableBits(recipe) - 1)));
+    // A screen's table must not show where the frame has one of its own.
+    const Colours general = recipe.localTable ? Colours{0xFF00FF, 0x00FF00, 0x0000FF} : recipe.colours;
+    out.append(static_cast<char>(0x80 | (tableBits(general) - 1)));
     out.append(QByteArray(2, '\0'));
-    if (!recipe.localTable) table(out, recipe);
+    table(out, general);
     if (recipe.moreBlocks) {
         out.append("!\xFE");
         subBlocks(out, QByteArray("a comment, not so short: ").repeated(15));

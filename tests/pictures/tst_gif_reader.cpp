@@ -159,6 +159,8 @@ void GifReaderTest::refusesWhatIsNoWholeGif_data() {
     QTest::newRow("a code size of 1") << changed(frameAt + 10, "\x01") << damaged;
     QTest::newRow("a code size of 9") << changed(frameAt + 10, "\x09") << damaged;
     QTest::newRow("a frame of more rows than pixels") << changed(frameAt + 7, "\x0B") << damaged;
+    QTest::newRow("codes that stop halfway")
+        << good.first(frameAt + 11) + QByteArray("\x03\x44\x00\x40\x00;", 6) << damaged;
     QTest::newRow("a code that is not there yet")
         << changed(frameAt + 12, "\x3C") << damaged; // 4 clears, then 7
     QTest::newRow("a screen wider than 32767") << changed(6, "\x01\x80") << tooLarge;

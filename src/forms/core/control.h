@@ -60,7 +60,8 @@ public:
     /// The controls now in the list. A window that has been unloaded has none.
     [[nodiscard]] virtual std::vector<Control*> controls() const = 0;
 
-    /// Lets the window paint and take the user's input. Other handlers may run inside, and may unload the window.
+    /// Lets the window paint and take the user's input. Other handlers may run inside, and may unload the
+    /// window.
     virtual void processPendingMessages() = 0;
     [[nodiscard]] virtual bool isLoaded() const = 0;
     /// Counts the loadings of the window, so that a pass can tell that its controls are gone.

@@ -2,8 +2,8 @@
 
 namespace quarvel {
 
-/// Twips (1/1440 inch) to one pixel of a screen of 96 dots per inch, which is what the toolkit's logical pixel
-/// always measures.
+/// Twips (1/1440 inch) to one pixel of a screen of 96 dots per inch, which is what the toolkit's logical
+/// pixel always measures.
 inline constexpr double twipsPerPixel = 15;
 
 /// A control's place in its container, in twips.

@@ -17,8 +17,8 @@ void showBar(ScrollControl& control, const ScrollBar& bar) {
 ChartFrame::ChartFrame(PictureBox& frame, Image& image, ScrollControl& horizontal, ScrollControl& vertical,
                        TwipsPerPixel twips, qint32& zoomLevel)
     : frame_(frame), image_(image), horizontal_(horizontal), vertical_(vertical), zoomLevel_(zoomLevel),
-      viewport_(measureOf(image, Measure::Left), measureOf(image, Measure::Top), measureOf(image, Measure::Width),
-                measureOf(image, Measure::Height)) {
+      viewport_(measureOf(image, Measure::Left), measureOf(image, Measure::Top),
+                measureOf(image, Measure::Width), measureOf(image, Measure::Height)) {
     viewport_.setTwipsPerPixel(twips);
     viewport_.setZoomLevel(zoomLevel);
     show();

@@ -15,15 +15,15 @@ enum class ChartShown { Yes, TooLarge };
 class ChartFrame {
 public:
     /// `zoomLevel` is the window's own count, which goes on from where it stands.
-    ChartFrame(PictureBox& frame, Image& image, ScrollControl& horizontal, ScrollControl& vertical, TwipsPerPixel twips,
-               qint32& zoomLevel);
+    ChartFrame(PictureBox& frame, Image& image, ScrollControl& horizontal, ScrollControl& vertical,
+               TwipsPerPixel twips, qint32& zoomLevel);
 
-    /// Shows a chart at its natural size and lets it take clicks. One whose scroll range would pass 16 bits is
-    /// refused, and the chart shown before stays.
+    /// Shows a chart at its natural size and lets it take clicks. One whose scroll range would pass 16 bits
+    /// is refused, and the chart shown before stays.
     [[nodiscard]] ChartShown load(const Picture& chart);
 
-    /// Button 1 zooms in and 2 zooms out at a point of the chart (pixels from its left and top edges), any other only
-    /// recomputes the scroll bars.
+    /// Button 1 zooms in and 2 zooms out at a point of the chart (pixels from its left and top edges), any
+    /// other only recomputes the scroll bars.
     [[nodiscard]] ZoomOutcome mouseDown(int button, float x, float y);
     [[nodiscard]] ZoomOutcome zoomInByButton();
     [[nodiscard]] ZoomOutcome zoomOutByButton();
@@ -35,7 +35,8 @@ public:
     void Set_Scrolls();
 
 private:
-    /// Takes over the measures as the controls have them now, runs a step of the arithmetic, and shows what it gave.
+    /// Takes over the measures as the controls have them now, runs a step of the arithmetic, and shows what
+    /// it gave.
     template <class Step>
     auto run(Step step);
     void show();

@@ -1,0 +1,205 @@
+#include "prompts/own_messages.h"
+#include "support/test_program.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QFile>
+#include <QGroupBox>
+#include <QRegularExpression>
+#include <QSet>
+
+using namespace quarvel;
+using namespace Qt::StringLiterals;
+
+/// The language list, the flags, and the shipped language files.
+class LanguageChoiceTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void flagSwitchesAllTextsAndIsRemembered();
+    void startLanguage_data();
+    void startLanguage();
+    void thirdLanguageIsListedButHasNoFlag();
+    void withoutLanguageFilesTheDesignedTextsStay();
+    void reloadedMainWindowShowsTheSameList();
+    void shippedFilesHoldEveryKeyAndNoOther_data();
+    void shippedFilesHoldEveryKeyAndNoOther();
+
+private:
+    static QString caption(QWidget* window, const QString& button) {
+        return TestProgram::control<QAbstractButton>(window, button)->text();
+    }
+    static QStringList items(TestProgram& test, QString* checked = nullptr) {
+        QStringList captions;
+        for (const auto* action : test.mainWindow()->findChildren<QAction*>())
+            if (action->objectName().startsWith(u"mnuLanguage("_s)) {
+                captions.append(action->text());
+                if (checked != nullptr && action->isChecked()) *checked = action->text();
+            }
+        return captions;
+    }
+};
+
+void LanguageChoiceTest::flagSwitchesAllTextsAndIsRemembered() {
+    TestProgram test;
+    test.start();
+    QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Uscita"_s);
+    TestProgram::click(test.mainWindow(), u"ImgLingua(0)"_s);
+    QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
+    QCOMPARE(TestProgram::control<QGroupBox>(test.mainWindow(), u"Frame2"_s)->title(), u"LANGUAGE"_s);
+    QCOMPARE(TestProgram::control(test.mainWindow(), u"txtRwy(38)"_s)->accessibleName(), u"ICAO CODE"_s);
+    QCOMPARE(test.read(u"LangSetting.ini"_s), "[Language]\r\nCurrentLanguage=English\r\n");
+    test.start(); // again
+    QString checked;
+    items(test, &checked);
+    QCOMPARE(checked, u"English"_s);
+    QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
+}
+
+void LanguageChoiceTest::startLanguage_data() {
+    QTest::addColumn<QByteArray>("setting"); // empty: no setting file
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("checked");
+    const QStringList both{u"English"_s, u"Italiano"_s};
+    QTest::newRow("as the setting says") << QByteArray("English") << both << u"English"_s << u"English"_s;
+    QTest::newRow("no setting file: Italiano") << QByteArray() << both << u"Italiano"_s << u"Italiano"_s;
+    QTest::newRow("neither: the first listed")
+        << QByteArray() << QStringList{u"English"_s} << u"English"_s << u"English"_s;
+    QTest::newRow("a setting that names no listed language")
+        << QByteArray("Klingon") << both << u"Klingon"_s << QString();
+    QTest::newRow("letter case counts for the mark")
+        << QByteArray("english") << both << u"english"_s << QString();
+}
+
+void LanguageChoiceTest::startLanguage() {
+    QFETCH(QByteArray, setting);
+    QFETCH(QStringList, files);
+    QFETCH(QString, language);
+    TestProgram test;
+    QFile::remove(test.path(u"LangSetting.ini"_s));
+    if (!setting.isEmpty())
+        test.write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=" + setting + "\r\n");
+    if (!files.contains(u"Italiano"_s)) QFile::remove(test.path(u"Italiano.lng"_s));
+    test.start();
+    QString checked;
+    QCOMPARE(items(test, &checked), files);
+    QTEST(checked, "checked");
+    QCOMPARE(test.program().state().MLSCurrentLanguage, language);
+    QCOMPARE(QFile::exists(test.path(u"LangSetting.ini"_s)), !setting.isEmpty()); // nothing written
+    QCOMPARE(TestProgram::control(test.mainWindow(), u"ImgLingua(1)"_s)->isEnabled(), files.size() > 1);
+}
+
+void LanguageChoiceTest::thirdLanguageIsListedButHasNoFlag() {
+    TestProgram test;
+    QFile::copy(test.path(u"English.lng"_s), test.path(u"Svenska.LNG"_s));
+    test.start();
+    QCOMPARE(items(test), QStringList({u"English"_s, u"Italiano"_s, u"Svenska"_s}));
+    TestProgram::click(test.mainWindow(), u"ImgLingua(0)"_s);
+    QCOMPARE(test.program().state().MLSCurrentLanguage, u"English"_s);
+    test.program().mainWindow().SelectLanguage(2);
+    QCOMPARE(test.program().state().MLSCurrentLanguage, u"Svenska"_s);
+    QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
+}
+
+void LanguageChoiceTest::withoutLanguageFilesTheDesignedTextsStay() {
+    TestProgram test;
+    QFile::remove(test.path(u"English.lng"_s));
+    QFile::remove(test.path(u"Italiano.lng"_s));
+    test.start();
+    QCOMPARE(test.boxes.shown.size(), 1);
+    QCOMPARE(test.boxes.shown.first().text, u"Non è presente alcun file di linguaggio!"_s);
+    QCOMPARE(test.boxes.shown.first().icon, BoxIcon::None);
+    QCOMPARE(test.boxes.captions.first().ok, u"OK"_s);
+    QCOMPARE(caption(test.mainWindow(), u"cmdElabora"_s), u"&CREA"_s);
+    QVERIFY(!test.mainWindow()->windowTitle().isEmpty());
+    QCOMPARE(test.program().state().MLSCurrentLanguage, QString());
+    TestProgram::click(test.mainWindow(), u"ImgLingua(0)"_s); // disabled
+    QCOMPARE(test.program().state().MLSCurrentLanguage, QString());
+    // The program's own messages have their Italian texts built in.
+    TestProgram::control(test.mainWindow(), u"cmdElabora"_s)->setEnabled(true);
+    TestProgram::click(test.mainWindow(), u"cmdElabora"_s);
+    QVERIFY(test.boxes.shown.last().text.contains(u"Il nome scelto"_s));
+}
+
+void LanguageChoiceTest::reloadedMainWindowShowsTheSameList() {
+    TestProgram test;
+    test.addAirport(u"LIRF"_s);
+    test.start();
+    TestProgram::click(test.mainWindow(), u"ImgLingua(0)"_s);
+    QFile::copy(test.path(u"English.lng"_s), test.path(u"Altra.lng"_s));
+    QFile::remove(test.path(u"LangSetting.ini"_s));
+    test.openViewer(u"LIRF"_s);
+    TestProgram::click(test.viewWindow(), u"Option1(0)"_s);
+    TestProgram::click(test.viewWindow(), u"Command3"_s);
+    QString checked;
+    QCOMPARE(items(test, &checked), QStringList({u"English"_s, u"Italiano"_s}));
+    QCOMPARE(checked, u"English"_s);
+    QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
+}
+
+namespace {
+
+/// The keys that a window asks a language file for and that would change what the user sees.
+QStringList keysOf(const ControlWindow& window) {
+    QStringList keys{window.windowName() + u".Caption"_s};
+    for (const Control* control : window.controls()) {
+        if (control->name() == u"mnuLanguage"_s) continue; // a key would rename the language itself
+        if (!control->caption().value_or(QString()).trimmed().isEmpty())
+            keys.append(controlKey(*control) + u".Caption"_s);
+        if (!control->toolTip().value_or(QString()).isEmpty())
+            keys.append(controlKey(*control) + u".ToolTipText"_s);
+    }
+    return keys;
+}
+
+QStringList messageNumbers() {
+    QStringList numbers;
+    for (int number = 1; number <= 36; ++number)
+        if ((number < 15 || number > 22) && number != 24)
+            numbers.append(u"%1"_s.arg(number, 4, 10, QChar(u'0')));
+    for (const OwnMessage& message : ownMessages()) numbers.append(QString::fromUtf16(message.number));
+    return numbers;
+}
+
+} // namespace
+
+void LanguageChoiceTest::shippedFilesHoldEveryKeyAndNoOther_data() {
+    QTest::addColumn<QString>("file");
+    QTest::newRow("Italiano") << u"Italiano.lng"_s;
+    QTest::newRow("English") << u"English.lng"_s;
+}
+
+void LanguageChoiceTest::shippedFilesHoldEveryKeyAndNoOther() {
+    QFETCH(QString, file);
+    TestProgram test;
+    const QByteArray content = test.read(file);
+    QFile::remove(test.path(u"Italiano.lng"_s)); // the windows are asked for their designed texts
+    test.addAirport(u"LIRF"_s);
+    test.start();
+    QStringList needed;
+    for (const QString& key : keysOf(test.program().mainWindow())) needed.append(u"frmMain/"_s + key);
+    test.openViewer(u"LIRF"_s);
+    for (const QString& key : keysOf(test.program().viewWindow())) needed.append(u"frmView/"_s + key);
+    for (const QString& number : messageNumbers()) needed.append(u"Strings/"_s + number);
+
+    QStringList held;
+    QString section;
+    static const QRegularExpression form(u"^([^=\\s]+)=\"(.+)\"$"_s);
+    for (const QString& line : QString::fromLatin1(content).split(u"\r\n"_s, Qt::SkipEmptyParts)) {
+        if (line.startsWith(u'[')) {
+            section = line.mid(1, line.size() - 2);
+            continue;
+        }
+        const QRegularExpressionMatch entry = form.match(line);
+        QVERIFY2(entry.hasMatch(), qPrintable(line));
+        QVERIFY2(entry.captured(2).size() <= 511, qPrintable(line));
+        held.append(section + u'/' + entry.captured(1));
+    }
+    needed.sort();
+    held.sort();
+    QCOMPARE(held, needed);
+}
+
+QTEST_MAIN(LanguageChoiceTest)
+#include "tst_language_choice.moc"

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "platform/services.h"
+#include "presenter/presenter.h"
+
+#include <QList>
+#include <QRect>
+#include <QStringList>
+#include <functional>
+
+namespace quarvel {
+
+/// Answers message boxes as told, OK or Yes when not told, and keeps what they would have shown the user.
+class ScriptedMessageBoxes : public MessageBoxes {
+public:
+    QList<Answer> answers;
+    QList<MessageBox> shown;
+    QList<ButtonCaptions> captions;
+    std::function<void()> meanwhile; ///< runs while the next box is open
+
+    Answer show(QWidget* /*parent*/, const MessageBox& box, const ButtonCaptions& names) override {
+        shown.append(box);
+        captions.append(names);
+        if (const auto during = std::exchange(meanwhile, nullptr)) during();
+        if (!answers.isEmpty()) return answers.takeFirst();
+        return box.buttons == Buttons::YesNo ? Answer::Yes : Answer::Ok;
+    }
+};
+
+class SilentSounds : public SoundPlayer {
+public:
+    QStringList played;
+    void play(const QString& path) override { played.append(path); }
+};
+
+class PaperlessPrinter : public FormPrinter {
+public:
+    PrintOutcome outcome = PrintOutcome::Printed;
+    int pages = 0;
+    PrintOutcome print(QWidget& window) override {
+        pages += outcome == PrintOutcome::Printed && !window.grab().isNull() ? 1 : 0;
+        return outcome;
+    }
+};
+
+class NotedUrls : public UrlOpener {
+public:
+    QStringList opened;
+    void open(const QString& url) override { opened.append(url); }
+};
+
+class FixedScreen : public Screen {
+public:
+    QRect whole() const override { return {0, 0, 1280, 1024}; }
+    double twipsPerPixelX() const override { return 15; }
+    double twipsPerPixelY() const override { return 15; }
+};
+
+class NotedEnd : public ProcessEnd {
+public:
+    bool ended = false;
+    void endNow() override { ended = true; }
+};
+
+class CountedBeeps : public Beeper {
+public:
+    int beeps = 0;
+    void beep() override { ++beeps; }
+};
+
+class NotedPresenter : public Presenter {
+public:
+    QStringList loaded;
+    int presentations = 0;
+    void LoadTextFile(const QString& path, MultiLineTextBox& /*box*/) override { loaded.append(path); }
+    void PresentAirport(const MultiLineTextBox& /*box*/) override { ++presentations; }
+};
+
+} // namespace quarvel

@@ -1,0 +1,89 @@
+#include "support/test_program.h"
+
+#include "archive/record_file.h"
+#include "pictures/gif_maker.h"
+
+#include <QDir>
+#include <QFile>
+#include <QListView>
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+
+TestProgram::TestProgram() {
+    for (const auto& file : {u"Italiano.lng"_s, u"English.lng"_s, u"LangSetting.ini"_s})
+        QFile::copy(QStringLiteral(QUARVEL_DATA_FOLDER "/") + file, path(file));
+    QDir(folder_.path()).mkdir(u"aeroporti"_s);
+}
+
+void TestProgram::write(const QString& relative, const QByteArray& bytes) const {
+    QDir().mkpath(path(relative).section(u'/', 0, -2));
+    QFile file(path(relative));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("cannot write");
+}
+
+QByteArray TestProgram::read(const QString& relative) const {
+    QFile file(path(relative));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void TestProgram::addAirport(const QString& name, const AirportRecord& record) const {
+    const QString folder = u"aeroporti/"_s + name + u'/';
+    for (const auto& part : {u"Sid"_s, u"Star"_s, u"Approach"_s, u"Aeroporto"_s})
+        QDir().mkpath(path(folder + part));
+    write(folder + u"Aeroporto/"_s + name + u".txt"_s, recordBytes(record, name).value());
+    addChart(folder + u"Aeroporto/"_s + name + u".gif"_s, {20, 30});
+}
+
+void TestProgram::addAirport(const QString& name) const {
+    AirportRecord record;
+    for (int position = 0; position < recordSize; ++position)
+        record.values[static_cast<std::size_t>(position)] = u"V%1"_s.arg(position);
+    record.values[IcaoCode] = name;
+    addAirport(name, record);
+}
+
+void TestProgram::addChart(const QString& relative, QSize size) const {
+    GifRecipe recipe{
+        .screen = size, .place = QRect(QPoint(0, 0), size), .pixels = {}, .colours = {0xFFFFFF, 0}};
+    recipe.pixels.assign(static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height()), 0);
+    write(relative, makeGif(recipe));
+}
+
+void TestProgram::start() {
+    program_ = std::make_unique<Program>(
+        folder_.path(), Services{boxes, sounds, printer, urls, screen, end, beeper}, presenter);
+    program_->show(WindowName::frmMain);
+    if (!QTest::qWaitForWindowActive(mainWindow())) qFatal("the main window does not become active");
+}
+
+void TestProgram::type(const QString& text) const {
+    QTest::keyClicks(control(mainWindow(), u"txtNomeAeroporto"_s), text);
+}
+
+void TestProgram::clickRow(QWidget* window, const QString& list, int row) {
+    auto* view = control<QListView>(window, list);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                      view->visualRect(view->model()->index(row, 0)).center());
+}
+
+void TestProgram::click(QWidget* window, const QString& control) {
+    QTest::mouseClick(TestProgram::control(window, control), Qt::LeftButton);
+}
+
+QStringList TestProgram::rows(QWidget* window, const QString& list) {
+    const auto* model = control<QListView>(window, list)->model();
+    QStringList texts;
+    for (int row = 0; row < model->rowCount(); ++row) texts.append(model->index(row, 0).data().toString());
+    return texts;
+}
+
+void TestProgram::openViewer(const QString& airport) {
+    type(airport);
+    clickRow(mainWindow(), u"lstWords"_s, 0);
+    click(mainWindow(), u"cmdGrafica"_s);
+    if (!QTest::qWaitForWindowActive(viewWindow())) qFatal("the viewer does not become active");
+}
+
+} // namespace quarvel

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "archive/record.h"
+#include "shell/program.h"
+#include "support/recording_services.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+#include <QWidget>
+#include <memory>
+
+namespace quarvel {
+
+/// The whole program on a program folder of its own, with a user at the keys and services that keep what
+/// reached them.
+class TestProgram {
+public:
+    /// A program folder with both shipped language files, Italian chosen, and an empty archive.
+    TestProgram();
+
+    [[nodiscard]] QString path(const QString& relative) const { return folder_.path() + u'/' + relative; }
+    void write(const QString& relative, const QByteArray& bytes) const;
+    [[nodiscard]] QByteArray read(const QString& relative) const;
+
+    /// An airport with a data file and a small picture; its ICAO code is its name.
+    void addAirport(const QString& name, const AirportRecord& record) const;
+    void addAirport(const QString& name) const;
+    /// A white chart of a size, such as "aeroporti/LIRF/Sid/KENN1.gif".
+    void addChart(const QString& relative, QSize size) const;
+
+    /// Starts the program: its main window is shown and active.
+    void start();
+    [[nodiscard]] Program& program() { return *program_; }
+
+    /// The main window or the viewer; null while it is not loaded.
+    [[nodiscard]] QWidget* mainWindow() const { return program_->mainWindow().window(); }
+    [[nodiscard]] QWidget* viewWindow() const { return program_->viewWindow().window(); }
+
+    /// A control of a window by its name, such as txtRwy(38).
+    template <class Widget = QWidget>
+    [[nodiscard]] static Widget* control(QWidget* window, const QString& name) {
+        auto* found = window->findChild<Widget*>(name);
+        if (found == nullptr) qFatal("no control %s", qPrintable(name));
+        return found;
+    }
+
+    /// Types a name in the name box, key by key.
+    void type(const QString& text) const;
+    /// Clicks a row of a list.
+    static void clickRow(QWidget* window, const QString& list, int row);
+    static void click(QWidget* window, const QString& control);
+    static QStringList rows(QWidget* window, const QString& list);
+    /// Opens an airport from the list and goes to the viewer.
+    void openViewer(const QString& airport);
+
+    ScriptedMessageBoxes boxes;
+    SilentSounds sounds;
+    PaperlessPrinter printer;
+    NotedUrls urls;
+    FixedScreen screen;
+    NotedEnd end;
+    CountedBeeps beeper;
+    NotedPresenter presenter;
+
+private:
+    QTemporaryDir folder_;
+    std::unique_ptr<Program> program_;
+};
+
+} // namespace quarvel

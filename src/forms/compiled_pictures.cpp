@@ -1,5 +1,6 @@
 #include "forms/compiled_pictures.h"
 
+#include <QFile>
 #include <QGuiApplication>
 #include <QString>
 
@@ -14,11 +15,14 @@ namespace quarvel {
 QPixmap compiledPicture(const char* name) {
     static const bool registered = (registerPictures(), true);
     Q_UNUSED(registered);
+    const QString path = u":/pictures/"_s + QLatin1StringView(name);
     // On a scaled screen the larger form, shown at the same size.
-    const bool large = qGuiApp->devicePixelRatio() > 1.0;
-    QPixmap pixmap(u":/pictures/%1%2.png"_s.arg(QLatin1StringView(name), large ? u"@2x"_s : QString()));
-    if (large) pixmap.setDevicePixelRatio(2.0);
-    return pixmap;
+    if (qGuiApp->devicePixelRatio() > 1.0 && QFile::exists(path + u"@2x.png"_s)) {
+        QPixmap large(path + u"@2x.png"_s);
+        large.setDevicePixelRatio(2.0);
+        return large;
+    }
+    return QPixmap(path + u".png"_s);
 }
 
 } // namespace quarvel

@@ -30,7 +30,7 @@ protected:
 Label::Label(Container& container, const ControlSpec& spec) : WidgetControl(container, spec, new MouseLabel) {
     static_cast<MouseLabel&>(label()).owner = this;
     label().setTextFormat(Qt::PlainText);
-    label().setAlignment(Qt::AlignCenter);
+    label().setAlignment(spec.align);
     label().setWordWrap(true);
     label().setMargin(2);
     label().setMouseTracking(true);

@@ -1,6 +1,9 @@
 #include "forms/look.h"
 
+#include "forms/compiled_pictures.h"
+
 #include <QApplication>
+#include <QIcon>
 #include <QPalette>
 #include <QStyleFactory>
 
@@ -29,6 +32,10 @@ void applyProgramLook(QApplication& application) {
     palette.setColor(QPalette::ToolTipText, colour::ink);
     QApplication::setPalette(palette);
     application.setFont(fontOf({}));
+    QIcon icon;
+    for (const char* size : {"quarvel-16", "quarvel-32", "quarvel-48", "quarvel-128"})
+        icon.addPixmap(compiledPicture(size));
+    QApplication::setWindowIcon(icon);
 }
 
 } // namespace quarvel

@@ -22,6 +22,7 @@ struct ControlSpec {
     Shown shown = Shown::Yes;
     Usable usable = Usable::Yes;
     Look look{};
+    Qt::Alignment align = Qt::AlignCenter; ///< of a label's text
     const char* picture = ""; ///< a compiled-in picture's name, for the kinds that show one
 };
 

@@ -45,7 +45,7 @@ struct frmMainControls {
         u"e  farò del mio meglio per rispondervi o risolvere il problema al più presto possibile. ATTENZIONE!!! "
         u"Non utilizzate questo software per la navigazione reale.              "
         u"Il programma è e deve rimanere FREEWARE per tutti gli appassionati della Simulazione di Volo."
-        u"                                      Il gruppo di Quarvel", .look = informationLook}};
+        u"                                      Il gruppo di Quarvel", .look = informationLook, .align = Qt::AlignHCenter | Qt::AlignTop}};
     Label     Label6_3    {fraMail,   {.name = "Label6", .index = 3, .place = {0, 0, 5175, 1200}, .caption =
         u"Se chiunque ha  domande,  suggerimenti, bug da segnalare o  altri problemi di supporto riguardo a questo "
         u"software per favore spedite un E-mail a :", .look = informationLook}};

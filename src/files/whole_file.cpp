@@ -5,6 +5,7 @@
 #include <QSaveFile>
 #include <cerrno>
 #include <fcntl.h>
+#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -35,6 +36,19 @@ private:
     int number_;
 };
 
+/// Brings a file's new content to the disk under a temporary name. A file that is let go without being
+/// committed leaves no trace.
+Result<void> prepare(QSaveFile& file, const FileContent& content) {
+    const QFileInfo info(content.path);
+    if (info.exists() && !info.isFile()) return Failure{Fault::NotRegular, content.path, {}};
+    file.setDirectWriteFallback(false);
+    errno = 0;
+    if (!file.open(QIODevice::WriteOnly)) return writeFailure(content.path, errno);
+    const bool written = file.write(content.bytes) == content.bytes.size() && file.flush();
+    if (!written || ::fsync(file.handle()) != 0) return writeFailure(content.path, errno);
+    return {};
+}
+
 } // namespace
 
 Result<QByteArray> readWholeFile(const QString& path, qint64 limitBytes) {
@@ -62,18 +76,17 @@ Result<QByteArray> readWholeFile(const QString& path, qint64 limitBytes) {
 }
 
 Result<void> writeWholeFile(const QString& path, const QByteArray& bytes) {
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile()) return Failure{Fault::NotRegular, path, {}};
-    QSaveFile file(path);
-    file.setDirectWriteFallback(false);
-    errno = 0;
-    if (!file.open(QIODevice::WriteOnly)) return writeFailure(path, errno);
-    if (file.write(bytes) != bytes.size() || !file.flush() || ::fsync(file.handle()) != 0) {
-        const int error = errno;
-        file.cancelWriting();
-        return writeFailure(path, error);
+    return writeWholeFiles({{path, bytes}});
+}
+
+Result<void> writeWholeFiles(const std::vector<FileContent>& files) {
+    std::vector<std::unique_ptr<QSaveFile>> prepared;
+    for (const FileContent& content : files) {
+        prepared.push_back(std::make_unique<QSaveFile>(content.path));
+        if (const Result<void> done = prepare(*prepared.back(), content); !done) return done.failure();
     }
-    if (!file.commit()) return writeFailure(path, errno);
+    for (const auto& file : prepared)
+        if (!file->commit()) return writeFailure(file->fileName(), errno);
     return {};
 }
 

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <vector>
 
 namespace quarvel {
 
@@ -15,5 +16,16 @@ namespace quarvel {
 /// Replaces or creates a file in one step: the bytes go to a temporary neighbour, are flushed to the disk and
 /// take the file's name. On failure (Unwritable) the file is its old self. The folder must exist.
 [[nodiscard]] Result<void> writeWholeFile(const QString& path, const QByteArray& bytes);
+
+/// A file to be written.
+struct FileContent {
+    QString path;
+    QByteArray bytes;
+};
+
+/// Writes several files that belong together: all of them are prepared, down to the disk, before the first
+/// takes its name, so that a full disk or a refused folder changes none of them. Each is its old or its new
+/// self.
+[[nodiscard]] Result<void> writeWholeFiles(const std::vector<FileContent>& files);
 
 } // namespace quarvel

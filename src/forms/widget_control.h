@@ -23,7 +23,7 @@ struct ControlSpec {
     Usable usable = Usable::Yes;
     Look look{};
     Qt::Alignment align = Qt::AlignCenter; ///< of a label's text
-    const char* picture = ""; ///< a compiled-in picture's name, for the kinds that show one
+    const char* picture = "";              ///< a compiled-in picture's name, for the kinds that show one
 };
 
 /// A control that is a widget. It joins its window's control list when it is made, and stands behind those

@@ -2,6 +2,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace quarvel {
 namespace {
 
@@ -43,6 +45,14 @@ constexpr std::array messages = {
                u"Non è un nome valido: «%1».\nUsa lettere, cifre e spazi interni, senza / \\ * ? \" < > | :"},
     OwnMessage{u"0139",
                u"Contiene il carattere «%2», che il file non può conservare:\n%1\nToglilo e riprova."},
+    // The menu of a text box.
+    OwnMessage{u"0140", u"&Annulla modifica"},
+    OwnMessage{u"0141", u"&Ripeti"},
+    OwnMessage{u"0142", u"&Taglia"},
+    OwnMessage{u"0143", u"&Copia"},
+    OwnMessage{u"0144", u"&Incolla"},
+    OwnMessage{u"0145", u"Elimina"},
+    OwnMessage{u"0146", u"Seleziona tutto"},
 };
 
 } // namespace
@@ -53,6 +63,11 @@ QString builtInText(const QString& number) {
     for (const OwnMessage& message : messages)
         if (number == QString::fromUtf16(message.number)) return QString::fromUtf16(message.italian);
     return {};
+}
+
+QString ownText(modLanguageSupport& language, const QString& number) {
+    const QString found = language.MLSGetString(number).replace(u"\\n"_s, u"\n"_s);
+    return found.isEmpty() ? builtInText(number) : found;
 }
 
 } // namespace quarvel

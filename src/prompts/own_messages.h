@@ -1,5 +1,7 @@
 #pragma once
 
+#include "language/language_support.h"
+
 #include <QString>
 #include <span>
 
@@ -17,5 +19,9 @@ struct OwnMessage {
 
 /// The built-in Italian text of a number; empty for a number that is not the program's own.
 [[nodiscard]] QString builtInText(const QString& number);
+
+/// A message's text in the current language, or its built-in one. The two characters \n in a language file
+/// are a line break.
+[[nodiscard]] QString ownText(modLanguageSupport& language, const QString& number);
 
 } // namespace quarvel

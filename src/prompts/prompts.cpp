@@ -43,17 +43,11 @@ QString numberOf(Fault fault) {
     return {};
 }
 
-/// A line break in a language file is written as the two characters \n.
-QString withLineBreaks(QString text) { return text.replace(u"\\n"_s, u"\n"_s); }
-
 } // namespace
 
 Prompts::Prompts(modLanguageSupport& language, MessageBoxes& boxes) : language_(language), boxes_(boxes) {}
 
-QString Prompts::text(const QString& number) {
-    const QString found = withLineBreaks(language_.MLSGetString(number));
-    return found.isEmpty() ? builtInText(number) : found;
-}
+QString Prompts::text(const QString& number) { return ownText(language_, number); }
 
 ButtonCaptions Prompts::captions() {
     return {text(u"0102"_s), text(u"0103"_s), text(u"0104"_s), text(u"0105"_s)};

@@ -8,9 +8,11 @@ namespace quarvel {
 
 Program::Program(const QString& programFolder, const Services& services, Presenter& presenter)
     : paths_(programFolder), language_(programFolder, state_.MLSCurrentLanguage),
-      prompts_(language_, services.messageBoxes), services_(services),
+      prompts_(language_, services.messageBoxes), toolkitTexts_(language_), services_(services),
       main_({state_, paths_, language_, prompts_, services_, presenter, *this}),
-      view_({state_, paths_, language_, prompts_, services_, *this}) {}
+      view_({state_, paths_, language_, prompts_, services_, *this}) {
+    QCoreApplication::installTranslator(&toolkitTexts_);
+}
 
 void Program::show(WindowName name) {
     // The companion window is not part of this program yet: the viewer, which it would lead back to, stands

@@ -5,6 +5,7 @@
 #include "platform/services.h"
 #include "presenter/presenter.h"
 #include "prompts/prompts.h"
+#include "prompts/toolkit_texts.h"
 #include "shell/frmMain.h"
 #include "state/process_state.h"
 #include "viewer/frmView.h"
@@ -33,6 +34,7 @@ private:
     ArchivePaths paths_;
     modLanguageSupport language_;
     Prompts prompts_;
+    ToolkitTexts toolkitTexts_;
     Services services_;
     frmMain main_;
     frmView view_;

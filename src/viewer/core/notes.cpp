@@ -7,7 +7,6 @@
 #include <QDir>
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace quarvel {
 
@@ -86,7 +85,7 @@ Result<QString> loadNote(const QString& folder, const NoteKind& kind, const QStr
 
 Result<void> saveNotes(const QString& folder, Family family, const QString& chartName,
                        const std::vector<NoteText>& texts) {
-    std::vector<std::pair<QString, QByteArray>> files;
+    std::vector<FileContent> files;
     for (const NoteKind& kind : notesOf(family)) {
         const auto note = std::find_if(texts.cbegin(), texts.cend(),
                                        [&kind](const NoteText& text) { return text.box == kind.box; });
@@ -95,11 +94,9 @@ Result<void> saveNotes(const QString& folder, Family family, const QString& char
         Result<QByteArray> bytes =
             noteBytes(kind.writtenInCapitals ? inCapitals(note->text) : note->text, path);
         if (!bytes) return bytes.failure();
-        files.emplace_back(path, bytes.take());
+        files.push_back({path, bytes.take()});
     }
-    for (const auto& [path, bytes] : files)
-        if (Result<void> written = writeWholeFile(path, bytes); !written) return written;
-    return {};
+    return writeWholeFiles(files);
 }
 
 } // namespace quarvel

@@ -44,9 +44,9 @@ struct NoteText {
     QString text;
 };
 
-/// Writes all notes of a chart, each file in one step, in the family's order. The texts are all encoded
-/// before the first file is touched, so that a character that cannot be stored changes no file. The note of a
-/// box that is not among them keeps its file. Fails with those of noteBytes and writeWholeFile.
+/// Writes all notes of a chart, in the family's order. All of them are prepared before the first file
+/// changes, so that a character that cannot be stored or a full disk leaves every note as it was. Fails with
+/// the faults of noteBytes and writeWholeFiles.
 [[nodiscard]] Result<void> saveNotes(const QString& folder, Family family, const QString& chartName,
                                      const std::vector<NoteText>& texts);
 

@@ -59,9 +59,10 @@ private:
     QByteArrayView rest_;
 };
 
-/// A value as the format can hold it: never empty, and without the character that would end it.
+/// A value as the format can hold it: never empty, and without what would end it or its line.
 QString storedValue(QString value) {
     if (value.isEmpty()) return QStringView(emptyPlaceholder).toString();
+    value.replace(u"\r\n"_s, u" "_s).replace(u'\r', u' ').replace(u'\n', u' ');
     return value.replace(u'"', u'\u201D');
 }
 

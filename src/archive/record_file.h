@@ -9,8 +9,9 @@
 namespace quarvel {
 
 /// The bytes of a data file: 39 lines in Windows-1252, each a value in double quotes, ended by CR LF. An
-/// empty value is written as ---; a double quote inside a value as the closing typographic quote, which the
-/// format holds. Fails with NotInCodePage (detail: the character that cannot be stored).
+/// empty value is written as ---; a line break inside a value as a blank, a double quote as the closing
+/// typographic quote, which the format holds. Fails with NotInCodePage (detail: the character that cannot be
+/// stored).
 [[nodiscard]] Result<QByteArray> recordBytes(const AirportRecord& record, const QString& path);
 
 /// Reads 39 values from a data file's bytes, tolerantly: blanks before a value are skipped; a quoted value

@@ -10,6 +10,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace quarvel {
 namespace {
 
@@ -28,6 +30,9 @@ bool exists(const QString& path) {
     struct stat info {};
     return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
 }
+
+/// A name that is nothing but a chart's extension is a chart without a name, not a hidden file.
+bool isHidden(const QString& name) { return name.startsWith(u'.') && !sameName(name, u".gif"_s); }
 
 /// All entry names of a folder, "." and ".." left out; empty when it cannot be read.
 QStringList entryNames(const QString& folder) {
@@ -56,6 +61,7 @@ QString nameOnDisk(const QString& folder, const QString& name) {
 
 QString resolvePath(const QString& root, const QString& relative) {
     QString path = root;
+    while (path.size() > 1 && path.endsWith(u'/')) path.chop(1);
     for (const QString& part : relative.split(u'/', Qt::SkipEmptyParts))
         path += u'/' + nameOnDisk(path, part);
     return path;
@@ -77,7 +83,7 @@ Result<QStringList> listFiles(const QString& folder) {
         return Failure{Fault::Unreadable, folder, {}};
     QStringList names;
     for (const QString& name : entryNames(folder))
-        if (!name.startsWith(u'.') && QFileInfo(folder + u'/' + name).isFile()) names.append(name);
+        if (!isHidden(name) && QFileInfo(folder + u'/' + name).isFile()) names.append(name);
     std::sort(names.begin(), names.end(),
               [](const QString& a, const QString& b) { return compareNames(a, b) < 0; });
     return names;

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalBlocker>
 
 namespace quarvel {
 namespace {
@@ -110,6 +111,11 @@ void OptionButton::clear() {
     button().setAutoExclusive(false);
     button().setChecked(false);
     button().setAutoExclusive(true);
+}
+
+void OptionButton::choose() {
+    const QSignalBlocker quiet(button());
+    button().setChecked(true);
 }
 
 bool OptionButton::isChosen() const { return button().isChecked(); }

@@ -29,6 +29,8 @@ public:
 
     /// Takes the choice away, which raises no event.
     void clear();
+    /// Chooses it, which raises no event either.
+    void choose();
     [[nodiscard]] bool isChosen() const;
 
     Event<> chosen; ///< it became the chosen one; not raised while it already is

@@ -32,6 +32,7 @@ protected:
             paintVisible(painter, event->rect() & visibleRegion().boundingRect());
         } else if (!compiled.isNull()) {
             painter.setRenderHint(QPainter::SmoothPixmapTransform);
+            painter.setOpacity(isEnabled() ? 1.0 : 0.35);
             painter.drawPixmap(rect(), compiled);
         }
     }

@@ -1,8 +1,11 @@
 #include "forms/list_box.h"
 
 #include <QAbstractListModel>
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QListView>
+#include <QMouseEvent>
+#include <utility>
 
 namespace quarvel {
 namespace {
@@ -34,6 +37,27 @@ public:
     RowsModel rows;
 
 protected:
+    /// Every pointer action on a row selects it, whatever keys are held; one beside the rows selects nothing
+    /// else.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                         const QEvent* /*event*/) const override {
+        return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+    }
+    void mousePressEvent(QMouseEvent* event) override {
+        if (event->button() != Qt::LeftButton) return;
+        pressedOnRow_ = indexAt(event->position().toPoint()).isValid();
+        QListView::mousePressEvent(event);
+    }
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        if (event->button() != Qt::LeftButton) return;
+        QListView::mouseReleaseEvent(event);
+        if (std::exchange(pressedOnRow_, false) && selectionModel()->hasSelection()) owner->clicked.raise();
+    }
+    void focusOutEvent(QFocusEvent* event) override {
+        QListView::focusOutEvent(event);
+        if (event->reason() != Qt::ActiveWindowFocusReason) owner->lostFocus.raise();
+    }
     void keyPressEvent(QKeyEvent* event) override {
         const bool chooses =
             event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
@@ -44,6 +68,9 @@ protected:
         selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
         owner->clicked.raise();
     }
+
+private:
+    bool pressedOnRow_ = false;
 };
 
 } // namespace
@@ -58,7 +85,6 @@ ListBox::ListBox(Container& container, const ControlSpec& spec)
     view().setSelectionMode(QAbstractItemView::SingleSelection);
     view().setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     view().setTextElideMode(Qt::ElideRight);
-    QObject::connect(&view(), &QAbstractItemView::clicked, &view(), [this] { clicked.raise(); });
 }
 
 QListView& ListBox::view() const { return static_cast<QListView&>(widget()); }

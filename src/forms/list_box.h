@@ -32,6 +32,7 @@ public:
 
     /// A row was clicked, the selected one included, or chosen with Return or the space bar.
     Event<> clicked;
+    Event<> lostFocus; ///< the focus went to another control of the window
 
 private:
     [[nodiscard]] QListView& view() const;

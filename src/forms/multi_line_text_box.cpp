@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QTextDocument>
+#include <QTextOption>
 #include <algorithm>
 #include <limits>
 
@@ -64,11 +66,18 @@ MultiLineTextBox::MultiLineTextBox(Container& container, const ControlSpec& spec
     edit().setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     edit().setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     edit().setTabChangesFocus(true);
+    QTextOption option = edit().document()->defaultTextOption();
+    option.setAlignment(spec.align & Qt::AlignHorizontal_Mask);
+    edit().document()->setDefaultTextOption(option);
 }
 
 QPlainTextEdit& MultiLineTextBox::edit() const { return static_cast<QPlainTextEdit&>(widget()); }
 
-QString MultiLineTextBox::text() const { return edit().toPlainText(); }
+QString MultiLineTextBox::text() const {
+    // The plain text would turn no-break blanks into blanks; a note keeps every character it has.
+    QString text = edit().document()->toRawText();
+    return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+}
 
 void MultiLineTextBox::setText(const QString& text) { edit().setPlainText(text); }
 

@@ -22,9 +22,10 @@ void ScrollControl::setState(int minimum, int maximum, int value, int smallChang
     bar().setRange(std::min(minimum, maximum), std::max(minimum, maximum));
     bar().setSingleStep(smallChange);
     bar().setPageStep(largeChange);
-    bar().setValue(value);
+    // Setting the value it has would throw back a thumb that is being dragged.
+    if (bar().value() != value) bar().setValue(value);
 }
 
-int ScrollControl::value() const { return bar().value(); }
+int ScrollControl::value() const { return bar().sliderPosition(); }
 
 } // namespace quarvel

@@ -14,6 +14,7 @@ public:
 
     /// What the bar shows and allows. Raises no notification: whoever sets it knows.
     void setState(int minimum, int maximum, int value, int smallChange, int largeChange);
+    /// Where the thumb stands, also while it is being dragged.
     [[nodiscard]] int value() const;
 
     Event<> scrolled; ///< the thumb is being dragged

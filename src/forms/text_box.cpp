@@ -9,26 +9,30 @@
 #include <QPainter>
 #include <QValidator>
 #include <algorithm>
+#include <limits>
 
 namespace quarvel {
 namespace {
 
-/// Lets a text grow up to a limit by typing and pasting. A longer text that was there already may only
-/// shrink.
-class LengthLimit : public QValidator {
+/// What a one-line box accepts from its user: text up to a limit, and nothing behind a line break in what is
+/// pasted. A text that was there already is kept as it is: a longer one may only shrink.
+class EntryLimit : public QValidator {
 public:
     using QValidator::QValidator;
 
-    void setLimit(int limit, qsizetype present) {
+    void setLimit(int limit, const QString& present) {
         limit_ = limit;
         follow(present);
     }
-    void follow(qsizetype present) { allowed_ = std::max<qsizetype>(limit_, present); }
+    void follow(const QString& present) {
+        allowed_ = std::max<qsizetype>(limit_, present.size());
+        breaks_ = lineBreaks(present);
+    }
 
     State validate(QString& text, int& cursor) const override {
-        if (limit_ == 0) return Acceptable;
         qsizetype place = cursor;
-        keepToLength(text, place, allowed_);
+        if (lineBreaks(text) > breaks_) keepFirstLine(text, place);
+        if (limit_ > 0) keepToLength(text, place, allowed_);
         cursor = static_cast<int>(place);
         return Acceptable;
     }
@@ -36,12 +40,16 @@ public:
 private:
     qsizetype limit_ = 0;
     qsizetype allowed_ = 0;
+    qsizetype breaks_ = 0; ///< line breaks that the text has already
 };
 
 class LineEdit : public QLineEdit {
 public:
-    explicit LineEdit(TextBoxEvents& events) : events_(events) { setValidator(&limit); }
-    LengthLimit limit;
+    explicit LineEdit(TextBoxEvents& events) : events_(events) {
+        setValidator(&limit);
+        setMaxLength(std::numeric_limits<int>::max()); // the box's own limit would cut what is stored
+    }
+    EntryLimit limit;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
@@ -78,9 +86,8 @@ TextBox::TextBox(Container& container, const ControlSpec& spec)
     : WidgetControl(container, spec, new LineEdit(events)) {
     edit().setAlignment(Qt::AlignCenter);
     edit().setText(QString::fromUtf16(spec.caption));
-    QObject::connect(&edit(), &QLineEdit::textChanged, &edit(), [this](const QString& text) {
-        static_cast<LineEdit&>(edit()).limit.follow(text.size());
-    });
+    QObject::connect(&edit(), &QLineEdit::textChanged, &edit(),
+                     [this](const QString& text) { static_cast<LineEdit&>(edit()).limit.follow(text); });
 }
 
 QLineEdit& TextBox::edit() const { return static_cast<QLineEdit&>(widget()); }
@@ -88,19 +95,21 @@ QLineEdit& TextBox::edit() const { return static_cast<QLineEdit&>(widget()); }
 QString TextBox::text() const { return edit().text(); }
 
 void TextBox::setText(const QString& text) {
-    static_cast<LineEdit&>(edit()).limit.follow(text.size());
+    static_cast<LineEdit&>(edit()).limit.follow(text);
     edit().setText(text);
     edit().setCursorPosition(0);
 }
 
 void TextBox::setLongestTyped(int characters) {
-    static_cast<LineEdit&>(edit()).limit.setLimit(characters, edit().text().size());
+    static_cast<LineEdit&>(edit()).limit.setLimit(characters, edit().text());
 }
 
 void TextBox::setEditing(Editing editing) { edit().setReadOnly(editing == Editing::Locked); }
 
 bool TextBox::isLocked() const { return edit().isReadOnly(); }
 
-void TextBox::selectAll() { edit().selectAll(); }
+int TextBox::cursor() const { return edit().cursorPosition(); }
+
+void TextBox::placeCursor(int place) { edit().setCursorPosition(place); }
 
 } // namespace quarvel

@@ -31,7 +31,9 @@ public:
     void setLongestTyped(int characters);
     void setEditing(Editing editing);
     [[nodiscard]] bool isLocked() const;
-    void selectAll();
+    /// Where the next character is typed, 0 for the beginning.
+    [[nodiscard]] int cursor() const;
+    void placeCursor(int place);
 
     TextBoxEvents events;
 

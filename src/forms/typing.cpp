@@ -4,6 +4,14 @@
 #include <algorithm>
 
 namespace quarvel {
+namespace {
+
+bool isLineBreak(QChar character) {
+    return character == u'\n' || character == u'\r' || character == QChar::LineSeparator ||
+           character == QChar::ParagraphSeparator;
+}
+
+} // namespace
 
 QString filteredKeys(const TextBoxEvents& events, const QString& typed) {
     QString filtered = typed;
@@ -27,6 +35,14 @@ QKeyEvent filteredKeyPress(const TextBoxEvents& events, const QKeyEvent& event) 
             event.isAutoRepeat(),
             static_cast<quint16>(event.count()),
             event.device()};
+}
+
+qsizetype lineBreaks(const QString& text) { return std::count_if(text.cbegin(), text.cend(), isLineBreak); }
+
+void keepFirstLine(QString& text, qsizetype& cursor) {
+    const qsizetype first = std::find_if(text.cbegin(), text.cbegin() + cursor, isLineBreak) - text.cbegin();
+    text.remove(first, cursor - first);
+    cursor = first;
 }
 
 void keepToLength(QString& text, qsizetype& cursor, qsizetype longest) {

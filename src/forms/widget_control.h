@@ -22,7 +22,7 @@ struct ControlSpec {
     Shown shown = Shown::Yes;
     Usable usable = Usable::Yes;
     Look look{};
-    Qt::Alignment align = Qt::AlignCenter; ///< of a label's text
+    Qt::Alignment align = Qt::AlignCenter; ///< of the text of a label or of a box of many lines
     const char* picture = "";              ///< a compiled-in picture's name, for the kinds that show one
 };
 

@@ -51,11 +51,14 @@ void modLanguageSupport::MLSApplyLanguage(ControlWindow& window) const {
         window.setWindowTag(text.value());
 
     const int loading = window.loading();
+    const QString language = MLSCurrentLanguage;
     for (Control* control : window.controls()) {
         applyToControl(section, *control);
         window.processPendingMessages();
         // A handler that ran just now may have unloaded the window, and its controls with it.
         if (!window.isLoaded() || window.loading() != loading) return;
+        // Or may have chosen another language, whose texts are all on the window by now.
+        if (MLSCurrentLanguage != language) return;
     }
 }
 

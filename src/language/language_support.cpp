@@ -29,7 +29,9 @@ modLanguageSupport::modLanguageSupport(QString programFolder, QString& currentLa
     : programFolder_(std::move(programFolder)), MLSCurrentLanguage(currentLanguage) {}
 
 QString modLanguageSupport::MLSGetString(const QString& number) {
-    if (MLSCurrentLanguage.isEmpty()) MLSCurrentLanguage = settingLanguage();
+    if (MLSCurrentLanguage.isEmpty()) {
+        if (Result<QString> setting = settingLanguage()) MLSCurrentLanguage = setting.take();
+    }
     Result<QString> text = ReadIniString(languageFile(), u"Strings"_s, number);
     return text ? text.take() : QString();
 }
@@ -47,12 +49,9 @@ QStringList modLanguageSupport::languages() const {
     return names;
 }
 
-QString modLanguageSupport::settingLanguage() const {
-    Result<QString> language = ReadIniString(settingFile(), u"Language"_s, u"CurrentLanguage"_s);
-    return language ? language.take() : QString();
+Result<QString> modLanguageSupport::settingLanguage() const {
+    return ReadIniString(settingFile(), u"Language"_s, u"CurrentLanguage"_s);
 }
-
-bool modLanguageSupport::settingFileExists() const { return QFileInfo(settingFile()).isFile(); }
 
 void modLanguageSupport::writeSettingLanguage(const QString& language) const {
     WriteIniString(settingFile(), u"Language"_s, u"CurrentLanguage"_s, language);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/result.h"
 #include "forms/core/control.h"
 
 #include <QString>
@@ -27,10 +28,9 @@ public:
     /// case.
     [[nodiscard]] QStringList languages() const;
 
-    /// The language that the setting file names; empty when it has no entry or cannot be read.
-    /// `settingFileExists` tells a missing file from one that names none.
-    [[nodiscard]] QString settingLanguage() const;
-    [[nodiscard]] bool settingFileExists() const;
+    /// The language that the setting file names, empty when it has no entry. Fails when the file is missing
+    /// or cannot be read.
+    [[nodiscard]] Result<QString> settingLanguage() const;
 
     /// Records a language in the setting file.
     void writeSettingLanguage(const QString& language) const;

@@ -32,7 +32,8 @@ constexpr std::array messages = {
     OwnMessage{u"0121",
                u"La stampa non è riuscita. Controlla che la stampante sia accesa e pronta, poi riprova."},
     // Why, and what to do.
-    OwnMessage{u"0130", u"Non esiste:\n%1\nControlla che sia al suo posto nell'archivio e riprova."},
+    OwnMessage{u"0130", u"Questo file o questa cartella non esiste:\n%1\nControlla che sia al suo posto "
+                        u"nell'archivio e riprova."},
     OwnMessage{u"0131", u"Non è un file normale:\n%1\nMetti al suo posto un file vero e riprova."},
     OwnMessage{u"0132", u"Il sistema non permette di leggere:\n%1\nControlla i permessi e riprova."},
     OwnMessage{u"0133", u"Il sistema non permette di scrivere:\n%1\nControlla i permessi e che la cartella "
@@ -41,10 +42,12 @@ constexpr std::array messages = {
     OwnMessage{u"0135", u"È troppo grande:\n%1\nControlla che sia il file giusto."},
     OwnMessage{u"0136", u"È incompleto:\n%1\nControlla che il file contenga tutti i suoi valori."},
     OwnMessage{u"0137", u"È danneggiato o di un altro formato:\n%1\nSostituiscilo con una copia buona."},
-    OwnMessage{u"0138",
-               u"Non è un nome valido: «%1».\nUsa lettere, cifre e spazi interni, senza / \\ * ? \" < > | :"},
-    OwnMessage{u"0139",
-               u"Contiene il carattere «%2», che il file non può conservare:\n%1\nToglilo e riprova."},
+    OwnMessage{u"0138", u"Non è un nome valido: «%1».\nUsa lettere, cifre e spazi interni, senza / \\ * ? \" "
+                        u"< > | : e senza punto o spazio alla "
+                        u"fine; se è molto lungo, accorcialo."},
+    OwnMessage{
+        u"0139",
+        u"Il testo contiene il carattere «%2», che il file non può conservare:\n%1\nToglilo e riprova."},
     // The menu of a text box.
     OwnMessage{u"0140", u"&Annulla modifica"},
     OwnMessage{u"0141", u"&Ripeti"},

@@ -35,6 +35,7 @@ void frmMain::wire() {
 }
 
 void frmMain::Form_Load() {
+    presenterTextPath_.clear();
     MLSFillMenuLanguages();
     language_.MLSApplyLanguage(*this);
     giveSpokenNames();

@@ -32,8 +32,8 @@ void frmMain::MLSFillMenuLanguages() {
 }
 
 void frmMain::setCurrentLanguageAtStart() {
-    if (language_.settingFileExists()) {
-        state_.MLSCurrentLanguage = language_.settingLanguage();
+    if (const Result<QString> setting = language_.settingLanguage()) {
+        state_.MLSCurrentLanguage = setting.value();
         return;
     }
     const QString italian = u"Italiano"_s;
@@ -53,6 +53,8 @@ void frmMain::SelectLanguage(int index) {
     state_.MLSCurrentLanguage = language;
     for (Form* form : windows().loaded()) {
         language_.MLSApplyLanguage(*form);
+        // Another choice made in the middle of this one has done all of it already.
+        if (state_.MLSCurrentLanguage != language) return;
         form->giveSpokenNames();
     }
     // The item's caption is taken again: the language file may have renamed the item meanwhile.

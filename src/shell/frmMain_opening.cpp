@@ -6,6 +6,7 @@
 #include "shell/frmMain.h"
 #include "text/key_filter.h"
 
+#include <QPointer>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -17,6 +18,8 @@ struct frmMain::Before {
     QString currentAirport;
     QString currentIcao;
     QString name;
+    int cursor;              ///< in the name box
+    QPointer<QWidget> focus; ///< the widget that had it
     Shown results;
     Shown firstDecoration;
     Editing fields;
@@ -27,7 +30,8 @@ frmMain::Before frmMain::before() const {
         return control.isShown() ? Shown::Yes : Shown::No;
     };
     return {state_.CurrentAirport,      state_.CurrentIcao,
-            c->txtNomeAeroporto.text(), shown(c->fraRicerca),
+            c->txtNomeAeroporto.text(), c->txtNomeAeroporto.cursor(),
+            window()->focusWidget(),    shown(c->fraRicerca),
             shown(c->Image1[1]),        c->txtRwy[0].isLocked() ? Editing::Locked : Editing::Free};
 }
 
@@ -35,9 +39,11 @@ void frmMain::putBack(const Before& before) {
     state_.CurrentAirport = before.currentAirport;
     state_.CurrentIcao = before.currentIcao;
     c->txtNomeAeroporto.setText(before.name);
+    c->txtNomeAeroporto.placeCursor(before.cursor);
     c->fraRicerca.setShown(before.results);
     c->Image1[1].setShown(before.firstDecoration);
     before.fields == Editing::Locked ? LockFields() : UnlockFields();
+    if (before.focus) before.focus->setFocus();
 }
 
 void frmMain::txtNomeAeroporto_KeyPress(char16_t& key) { key = UpperCaseKey(key); }
@@ -145,7 +151,7 @@ void frmMain::fillFields(const AirportRecord& record) {
 }
 
 void frmMain::presentAirport(const QString& name) {
-    if (state_.MLSCurrentLanguage != u"Italiano"_s) return;
+    if (state_.MLSCurrentLanguage != u"Italiano"_s || !staysInFolder(state_.CurrentIcao)) return;
     presenterTextPath_ = paths_.presenterText(name, state_.CurrentIcao);
     presenter_.LoadTextFile(presenterTextPath_, c->TxtFile);
     presenter_.PresentAirport(c->TxtFile);

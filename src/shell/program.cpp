@@ -15,8 +15,6 @@ Program::Program(const QString& programFolder, const Services& services, Present
 }
 
 void Program::show(WindowName name) {
-    // The companion window is not part of this program yet: the viewer, which it would lead back to, stands
-    // in.
     Form& form = name == WindowName::frmMain ? static_cast<Form&>(main_) : view_;
     if (!form.isLoaded()) inLoadingOrder_.push_back(&form);
     form.show();

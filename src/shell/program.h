@@ -22,6 +22,7 @@ public:
     Program(const QString& programFolder, const Services& services, Presenter& presenter);
 
     void show(WindowName name) override;
+    [[nodiscard]] bool has(WindowName name) const override { return name != WindowName::frmFS9; }
     [[nodiscard]] std::vector<Form*> loaded() const override;
     void unloaded(Form& form) override;
 

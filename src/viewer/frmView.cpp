@@ -32,6 +32,7 @@ void frmView::wire() {
         option.chosen.calls(this, &frmView::Option1_Click, index);
     });
     c->List1.clicked.calls(this, &frmView::List1_Click);
+    c->List1.lostFocus.calls(this, &frmView::keepChosenChart);
     c->Text1.events.keyPress.calls(this, &frmView::Text1_KeyPress);
     c->Text2.events.keyPress.calls(this, &frmView::Text2_KeyPress);
     c->Text3.events.keyPress.calls(this, &frmView::Text3_KeyPress);
@@ -70,6 +71,7 @@ void frmView::Form_Activate() {
     setWindowCaption(language_.MLSGetString(u"0001"_s) + u' ' + trimBlanks(state_.CurrentAirport) +
                      language_.MLSGetString(u"0002"_s));
     c->Option1.forEach([](int /*index*/, OptionButton& option) { option.clear(); });
+    chosenOption_ = -1;
 }
 
 Closing frmView::Form_QueryUnload(UnloadReason reason) {
@@ -109,6 +111,7 @@ void frmView::Command3_Click() {
 }
 
 void frmView::Command4_Click() {
+    if (!windows().has(WindowName::frmFS9)) return; // hiding the only window would lose it
     hide();
     windows().show(WindowName::frmFS9);
 }

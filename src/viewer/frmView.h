@@ -81,6 +81,7 @@ private:
     const Services& services_;
 
     std::optional<ChartFrame> chart_; ///< while the window is loaded
+    int chosenOption_ = -1;           ///< of the list on show; -1 once the options have been cleared
     int chosenRow_ = -1; ///< of the chart shown, in the list on show; -1 when it is none of this list
 };
 

@@ -33,6 +33,7 @@ void frmView::Option1_Click(int index) {
     const QString folder = paths_.familyFolder(state_.CurrentAirport, familyFolderName(family));
     if (const Result<void> listed = c->File1.setPath(folder); !listed) {
         c->Option1[index].clear();
+        if (chosenOption_ >= 0) c->Option1[chosenOption_].choose();
         prompts_.tell(*this, Task::ListCharts, listed.failure());
         return;
     }
@@ -40,6 +41,7 @@ void frmView::Option1_Click(int index) {
     state_.FamilyFolder = folder;
     c->List1.setItems(chartNames(c->File1.files()));
     chosenRow_ = -1;
+    chosenOption_ = index;
     FamilyMode = family;
     setFamilyTexts(family);
     giveSpokenNames();
@@ -84,7 +86,9 @@ void frmView::List1_Click() {
     c->Image1.setSpokenName(ChartName);
 }
 
-void frmView::keepChosenChart() { c->List1.select(chosenRow_); }
+void frmView::keepChosenChart() {
+    if (c != nullptr) c->List1.select(chosenRow_);
+}
 
 Result<std::vector<NoteText>> frmView::readNotes(const QString& chart) const {
     std::vector<NoteText> notes;

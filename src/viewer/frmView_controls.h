@@ -44,11 +44,11 @@ struct frmViewControls {
     Image        Image1    {Picture1, {.name = "Image1", .place = {120, 0, 1260, 1410}, .usable = Usable::No}};
 
     Frame            Frame4 {form,    {.name = "Frame4", .place = {-120, 6240, 5535, 1455}, .look = bold}};
-    MultiLineTextBox Text3  {Frame4,  {.name = "Text3", .place = {120, 240, 5295, 1005}, .look = notesLook}};
+    MultiLineTextBox Text3  {Frame4,  {.name = "Text3", .place = {120, 240, 5295, 1005}, .look = notesLook, .align = Qt::AlignLeft}};
     Frame            Frame3 {form,    {.name = "Frame3", .place = {0, 4800, 5415, 1455}, .look = bold}};
-    MultiLineTextBox Text1  {Frame3,  {.name = "Text1", .place = {0, 240, 5295, 1125}, .look = notesLook}};
+    MultiLineTextBox Text1  {Frame3,  {.name = "Text1", .place = {0, 240, 5295, 1125}, .look = notesLook, .align = Qt::AlignLeft}};
     Frame            Frame1 {form,    {.name = "Frame1", .place = {0, 3600, 5415, 1215}, .look = bold}};
-    MultiLineTextBox Text2  {Frame1,  {.name = "Text2", .place = {0, 240, 5295, 915}, .look = notesLook}};
+    MultiLineTextBox Text2  {Frame1,  {.name = "Text2", .place = {0, 240, 5295, 915}, .look = notesLook, .align = Qt::AlignLeft}};
 
     ListBox      List1      {form,    {.name = "List1", .place = {0, 960, 5415, 2220}, .look = listLook}};
     Frame        Frame2     {form,    {.name = "Frame2", .place = {0, 0, 5415, 975}, .caption = u"SCELTA PROCEDURE", .look = bold}};

@@ -40,6 +40,7 @@ private Q_SLOTS:
     void lengthLimitsTypingAndPasting_data();
     void lengthLimitsTypingAndPasting();
     void longerStoredTextStaysWholeAndMayOnlyShrink();
+    void pastedTextEndsAtItsFirstLineBreak();
     void notesStopAtTheirLength();
     void typedLettersAreFilteredAndPastedOnesAreNot();
     void aSelectedRowCanBeClickedAgain();
@@ -82,6 +83,19 @@ void FormsTest::longerStoredTextStaysWholeAndMayOnlyShrink() {
     QTest::keyClick(&edit, Qt::Key_Backspace);
     QTest::keyClicks(&edit, u"XY"_s);
     QCOMPARE(box.text(), u"09 LEF"_s);
+}
+
+void FormsTest::pastedTextEndsAtItsFirstLineBreak() {
+    Inside window;
+    TextBox box(window, {.name = "box", .place = {0, 0, 1500, 450}});
+    auto& edit = static_cast<QLineEdit&>(box.widget());
+    QGuiApplication::clipboard()->setText(u"N45\r\nE9"_s);
+    QTest::keyClicks(&edit, u"AB"_s);
+    edit.setCursorPosition(1);
+    edit.paste();
+    QCOMPARE(box.text(), u"AN45B"_s);
+    box.setText(QString(40000, u'x') + u"\n"_s); // what is stored is shown whole
+    QCOMPARE(box.text().size(), 40001);
 }
 
 void FormsTest::notesStopAtTheirLength() {

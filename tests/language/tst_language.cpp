@@ -159,7 +159,7 @@ void tst_language::writing() {
     put(u"LangSetting.ini"_s, before);
     support().writeSettingLanguage(u"new"_s);
     QTEST(bytesOf(u"LangSetting.ini"_s), "after");
-    QCOMPARE(support().settingLanguage(), u"new"_s);
+    QCOMPARE(support().settingLanguage().value(), u"new"_s);
 }
 
 void tst_language::writingRefuses() {
@@ -175,11 +175,11 @@ void tst_language::messageOfTheSettingsLanguage() {
     modLanguageSupport language = support();
     put(u"ITALIANO.LNG"_s, "[Strings]\r\n0001=\"uno\"\r\n");
     QCOMPARE(language.MLSGetString(u"0001"_s), QString());
-    QVERIFY(current_.isEmpty() && !language.settingFileExists());
+    QVERIFY(current_.isEmpty() && !language.settingLanguage());
 
     language.writeSettingLanguage(u"Italiano"_s);
     QCOMPARE(bytesOf(u"LangSetting.ini"_s), QByteArray("[Language]\r\nCurrentLanguage=Italiano\r\n"));
-    QVERIFY(language.settingFileExists());
+    QCOMPARE(language.settingLanguage().value(), u"Italiano"_s);
     QCOMPARE(language.MLSGetString(u"0001"_s), u"uno"_s);
     QCOMPARE(current_, u"Italiano"_s);
 

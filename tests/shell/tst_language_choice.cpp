@@ -22,6 +22,8 @@ private Q_SLOTS:
     void thirdLanguageIsListedButHasNoFlag();
     void withoutLanguageFilesTheDesignedTextsStay();
     void reloadedMainWindowShowsTheSameList();
+    void noTwoButtonsOnShowShareAMnemonic_data();
+    void noTwoButtonsOnShowShareAMnemonic();
     void shippedFilesHoldEveryKeyAndNoOther_data();
     void shippedFilesHoldEveryKeyAndNoOther();
 
@@ -87,7 +89,11 @@ void LanguageChoiceTest::startLanguage() {
     QTEST(checked, "checked");
     QCOMPARE(test.program().state().MLSCurrentLanguage, language);
     QCOMPARE(QFile::exists(test.path(u"LangSetting.ini"_s)), !setting.isEmpty()); // nothing written
-    QCOMPARE(TestProgram::control(test.mainWindow(), u"ImgLingua(1)"_s)->isEnabled(), files.size() > 1);
+    QWidget* flag = TestProgram::control(test.mainWindow(), u"ImgLingua(1)"_s);
+    QCOMPARE(flag->isEnabled(), files.size() > 1);
+    const QImage asShown = flag->grab().toImage();
+    flag->setEnabled(!flag->isEnabled());
+    QVERIFY(flag->grab().toImage() != asShown); // a disabled flag looks it
 }
 
 void LanguageChoiceTest::thirdLanguageIsListedButHasNoFlag() {
@@ -136,6 +142,37 @@ void LanguageChoiceTest::reloadedMainWindowShowsTheSameList() {
     QCOMPARE(items(test, &checked), QStringList({u"English"_s, u"Italiano"_s}));
     QCOMPARE(checked, u"English"_s);
     QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
+}
+
+void LanguageChoiceTest::noTwoButtonsOnShowShareAMnemonic_data() {
+    QTest::addColumn<int>("language");
+    QTest::newRow("English") << 0;
+    QTest::newRow("Italiano") << 1;
+}
+
+void LanguageChoiceTest::noTwoButtonsOnShowShareAMnemonic() {
+    QFETCH(int, language);
+    const auto mnemonics = [](const QWidget* window) {
+        QStringList keys;
+        for (const auto* button : window->findChildren<QAbstractButton*>())
+            if (button->isVisible() && button->isEnabled() && !button->shortcut().isEmpty())
+                keys.append(button->shortcut().toString());
+        return keys;
+    };
+    TestProgram test;
+    test.addAirport(u"LIRF"_s);
+    test.start();
+    test.program().mainWindow().SelectLanguage(language);
+    test.type(u"LIRF"_s);
+    TestProgram::clickRow(test.mainWindow(), u"lstWords"_s, 0);
+    TestProgram::click(test.mainWindow(), u"cmdInfo"_s);
+    QStringList keys = mnemonics(test.mainWindow());
+    QCOMPARE(keys.removeDuplicates(), 0);
+    TestProgram::click(test.mainWindow(), u"cmdGrafica"_s);
+    TestProgram::click(test.viewWindow(), u"Option1(0)"_s);
+    keys = mnemonics(test.viewWindow());
+    QVERIFY(!keys.isEmpty());
+    QCOMPARE(keys.removeDuplicates(), 0);
 }
 
 namespace {

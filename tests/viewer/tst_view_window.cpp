@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QGroupBox>
 #include <QLabel>
+#include <QListView>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 
@@ -26,6 +27,9 @@ private Q_SLOTS:
     void savingNeedsAChartOfTheListOnShow();
     void aNoteThatCannotBeStoredChangesNoFile();
     void zoomAndScrollMoveTheChart();
+    void draggingAThumbMovesTheChart_data();
+    void draggingAThumbMovesTheChart();
+    void everySelectedRowIsTheChosenChart();
     void damagedChartsLeaveThePreviousOne_data();
     void damagedChartsLeaveThePreviousOne();
     void reopeningStartsAfreshButKeepsTheFields();
@@ -212,10 +216,48 @@ void ViewWindowTest::zoomAndScrollMoveTheChart() {
     QCOMPARE(chart->width(), largest);
 }
 
+void ViewWindowTest::draggingAThumbMovesTheChart_data() {
+    QTest::addColumn<QString>("bar");
+    QTest::newRow("across") << u"HScroll1"_s;
+    QTest::newRow("down") << u"VScroll1"_s;
+}
+
+void ViewWindowTest::draggingAThumbMovesTheChart() {
+    QFETCH(QString, bar);
+    const auto test = viewer();
+    choose(*test, u"Option1(0)"_s, 1);
+    auto* scroll = TestProgram::control<QScrollBar>(test->viewWindow(), bar);
+    const bool across = bar == u"HScroll1"_s;
+    const QPoint thumb = across ? QPoint(24, 8) : QPoint(8, 24);
+    const QPoint further = across ? QPoint(120, 8) : QPoint(8, 120);
+    QTest::mousePress(scroll, Qt::LeftButton, {}, thumb);
+    QTest::mouseMove(scroll, further);
+    const QPoint place = TestProgram::control(test->viewWindow(), u"Image1"_s)->pos();
+    QVERIFY(across ? place.x() < -50 : place.y() < -50);
+    QTest::mouseRelease(scroll, Qt::LeftButton, {}, further);
+    QCOMPARE(across ? -place.x() : -place.y(), scroll->value());
+}
+
+void ViewWindowTest::everySelectedRowIsTheChosenChart() {
+    const auto test = viewer();
+    choose(*test, u"Option1(0)"_s, 1);
+    auto* list = TestProgram::control<QListView>(test->viewWindow(), u"List1"_s);
+    const QPoint other = list->visualRect(list->model()->index(2, 0)).center();
+    QTest::mouseClick(list->viewport(), Qt::RightButton, {}, other);
+    QCOMPARE(list->currentIndex().row(), 1);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, other);
+    QCOMPARE(test->program().viewWindow().ChartName, u"ZETA"_s);
+    // Arrow keys only look around: leaving the list shows the chosen chart again.
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Up);
+    TestProgram::control(test->viewWindow(), u"Text2"_s)->setFocus();
+    QCOMPARE(list->currentIndex().row(), 2);
+}
+
 void ViewWindowTest::damagedChartsLeaveThePreviousOne_data() {
     QTest::addColumn<QByteArray>("content"); // empty: the file is removed
     QTest::addColumn<QString>("told");
-    QTest::newRow("removed since it was listed") << QByteArray() << u"Non esiste"_s;
+    QTest::newRow("removed since it was listed") << QByteArray() << u"non esiste"_s;
     QTest::newRow("not a picture") << QByteArray("this is no chart") << u"danneggiato"_s;
 }
 

@@ -1,0 +1,39 @@
+# shellcheck shell=bash
+# What the scripts have in common. Sourced, never run: the caller has set -euo pipefail and this moves to the root.
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$root" || exit
+
+# say WORD...: one line about what is going on; on the error stream, so that output stays what was asked for.
+say() { printf '%s\n' "$*" >&2; }
+
+# fail WORD...: says what went wrong and ends.
+fail() {
+    say "${0##*/}: $*"
+    exit 1
+}
+
+# quietly COMMAND...: runs it and shows its output only when it fails, with its exit status.
+quietly() {
+    local log status=0
+    log=$(mktemp)
+    "$@" > "$log" 2>&1 < /dev/null || status=$?
+    if ((status != 0)); then cat "$log" >&2; fi
+    rm -f "$log"
+    return "$status"
+}
+
+# configure: makes build/release ready to be built in. Ninja looks after later changes of the CMake files itself, but
+# not of the presets, nor of a clone that was moved or copied together with its build folder.
+configure() {
+    local cache=build/release/CMakeCache.txt
+    if [[ -f build/release/build.ninja && ! CMakePresets.json -nt build/release/build.ninja ]] &&
+        grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$cache"; then
+        return
+    fi
+    quietly cmake --preset release --fresh || fail "the build could not be configured"
+    touch build/release/build.ninja
+}
+
+# build TARGET...: compiles in build/release and shows the compiler's words only when it fails.
+build() { quietly cmake --build build/release --target "$@" || fail "the build failed"; }

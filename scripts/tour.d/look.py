@@ -1,0 +1,109 @@
+"""Pictures of every window and state in one language, for eyes to judge.
+
+Usage: look.py EXECUTABLE DATA SCRATCH PICTURES LANGUAGE      (in the desktop of scripts/with-desktop)
+"""
+
+import sys
+from pathlib import Path
+
+from accessible import expect
+from disk import Airport
+from program import Program
+from screen import Eyes, click, click_at, press
+from stage import AIRPORT
+from windows import MainWindow, Viewer
+
+UNKNOWN = "zzzz"
+
+
+class Look:
+    def __init__(self, executable, data, scratch, pictures, language):
+        self.program = Program(executable, data, Path(scratch) / "program", language)
+        self.language = self.program.language(language)
+        self.airport = Airport(self.program.folder, AIRPORT)
+        self.main = MainWindow(self.program, self.language)
+        self.viewer = Viewer(self.program, self.language)
+        self.eyes = Eyes(scratch)
+        self.pictures = Path(pictures)
+        self.count = 0
+
+    def keep(self, what):
+        self.count += 1
+        self.eyes.keep(self.program.window(), self.pictures / f"{self.count:02}-{what}.png")
+
+    def run(self):
+        self.search()
+        self.airport_view()
+        self.charts()
+        self.new_airport()
+
+    def search(self):
+        self.main.expect_search()
+        self.keep("search")
+        self.main.search("li")
+        expect("list", lambda: f"[{AIRPORT}]" in self.main.entries(), True)
+        self.keep("results")
+
+    def airport_view(self):
+        self.main.open_from_list(AIRPORT)
+        self.keep("airport")
+        self.main.choose("cmdInfo")
+        self.main.button("cmdEsciMail")
+        self.keep("information")
+        click(self.main.button("cmdEsciMail"))
+        click(self.main.button("cmdEsci"))
+        self.main.message_box("0011", "0012")
+        self.keep("quit")
+        self.main.answer("0011", "0012", "0105")
+
+    def charts(self):
+        self.main.choose("cmdGrafica")
+        self.viewer.expect_shown(AIRPORT)
+        self.keep("viewer")
+        self.choose("Sid", 0)
+        self.keep("departure")
+        paper = self.viewer.paper()
+        for _ in range(3):
+            click_at(paper.x + 200, paper.y + 200)
+        self.keep("zoomed-in")
+        self.choose("Star", 1)
+        self.keep("arrival")
+        self.choose("Approach", 2)
+        self.keep("approach")
+        for _ in range(4):
+            click(self.viewer.button("Command2"))
+        self.keep("zoomed-out")
+        click(self.viewer.button("cmdSave"))
+        self.viewer.message_box("0027", "0028")
+        self.keep("save")
+        self.viewer.answer("0027", "0028", "0103")
+        self.viewer.choose("Command3")
+
+    def choose(self, family, option):
+        """The chart of a family that has the most to read."""
+        self.viewer.family(option)
+        charts = self.airport.charts(family)
+        expect("charts", lambda: sorted(self.viewer.charts()), charts)
+        kinds = ("ROTTA", "DECOLLO", "ALTITUDINE", "MISSED")
+        self.viewer.choose_chart(max(charts, key=lambda chart: sum(
+            len(self.airport.note(family, kind, chart)) for kind in kinds)))
+
+    def new_airport(self):
+        self.main.expect_search()
+        self.main.search(UNKNOWN)
+        click(self.main.button("cmdElabora"))
+        self.main.message_box("0013", "0014")
+        self.keep("not-found")
+        self.main.answer("0013", "0014", "0102")
+        self.main.button("cmdReset")
+        press("Tab")
+        self.keep("new-airport")
+
+
+if __name__ == "__main__":
+    look = Look(*sys.argv[1:6])
+    try:
+        look.run()
+        print(f"{look.count} pictures in {look.pictures}")
+    finally:
+        look.program.stop()

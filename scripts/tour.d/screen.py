@@ -1,0 +1,131 @@
+"""The hands and the eyes: real keys, real mouse buttons, and pictures of the screen."""
+
+import os
+import re
+import subprocess
+from pathlib import Path
+
+from accessible import Unexpected
+
+SCALE = int(os.environ.get("QT_SCALE_FACTOR", "1"))  # screen pixels in one of the program's pixels
+
+
+def _run(*command):
+    return subprocess.run([str(word) for word in command], check=True, capture_output=True, text=True).stdout
+
+
+def press(*keys):
+    _run("xdotool", "key", "--clearmodifiers", *keys)
+
+
+def write(text):
+    """Types text as a person would: what capital letters there are is the program's doing."""
+    for number, line in enumerate(text.split("\n")):
+        if number > 0:
+            press("Return")
+        _run("xdotool", "type", "--delay", "12", line)
+
+
+def move_to(x, y):
+    _run("xdotool", "mousemove", round(x * SCALE), round(y * SCALE))
+
+
+def click_at(x, y, button=1):
+    move_to(x, y)
+    _run("xdotool", "click", button)
+
+
+def click(thing):
+    box = thing.box
+    click_at(box.x + box.width // 2, box.y + box.height // 2)
+
+
+def drag(start, end):
+    """Holds the left button from one point to the other."""
+    move_to(*start)
+    _run("xdotool", "mousedown", 1)
+    move_to((start[0] + end[0]) / 2, (start[1] + end[1]) / 2)
+    move_to(*end)
+    _run("xdotool", "mouseup", 1)
+
+
+def title():
+    """The title bar of the window that has the keyboard."""
+    found = subprocess.run(["xdotool", "getactivewindow", "getwindowname"], capture_output=True, text=True)
+    return found.stdout.rstrip("\n")
+
+
+def _borders():
+    """Left, right, top and bottom border of the active window, in screen pixels."""
+    answer = _run("xprop", "-id", _run("xdotool", "getactivewindow").strip(), "_NET_FRAME_EXTENTS")
+    return [int(number) for number in re.findall(r"\d+", answer.partition("=")[2])] or [0, 0, 0, 0]
+
+
+class Eyes:
+    """Takes pictures of the screen; `scratch` is where those go that are only looked at."""
+
+    def __init__(self, scratch):
+        self._scratch = Path(scratch)
+
+    def whole(self, name="screen"):
+        path = self._scratch / f"{name}.png"
+        _run("import", "-window", "root", path)
+        return path
+
+    def part(self, box, name="part"):
+        """The pixels of a box, in screen pixels."""
+        path = self._scratch / f"{name}.png"
+        crop = f"{box.width * SCALE}x{box.height * SCALE}+{box.x * SCALE}+{box.y * SCALE}"
+        _run("convert", self.whole(), "-crop", crop, "+repage", path)
+        return path
+
+    def still(self):
+        """A picture of the screen once nothing moves on it."""
+        before = self.whole("before")
+        for _ in range(20):
+            now = self.whole("now")
+            if difference(before, now) == 0:
+                break
+            now.replace(before)
+        return before
+
+    def keep(self, window, path):
+        """A small picture file of a window (a box), its borders and what lies on it; the mouse is put aside."""
+        _run("xdotool", "mousemove", 0, 0)
+        left, right, top, bottom = _borders()
+        width, height = window.width * SCALE + left + right, window.height * SCALE + top + bottom
+        crop = f"{width}x{height}+{window.x * SCALE - left}+{window.y * SCALE - top}"
+        Path(path).parent.mkdir(parents=True, exist_ok=True)
+        small = ("-strip", "-define", "png:compression-level=9", "-define", "png:compression-filter=5")
+        _run("convert", self.still(), "-crop", crop, "+repage", *small, f"png:{path}")
+
+
+def difference(one, other):
+    """How far two pictures of one size are apart: 0 for the same, 1 for black against white."""
+    command = ["compare", "-metric", "RMSE", str(one), str(other), "null:"]
+    answer = subprocess.run(command, capture_output=True, text=True)
+    found = re.search(r"\(([\d.e+-]+)\)", answer.stderr)
+    if not found:
+        raise Unexpected("comparing two pictures", "a number", answer.stderr)
+    return float(found.group(1))
+
+
+def prepare(picture, path, *operations):
+    """A copy of a picture with ImageMagick operations applied, as a PNG file."""
+    _run("convert", picture, *operations, "+repage", path)
+    return path
+
+
+def measure(picture, wanted, *operations):
+    """Numbers of a picture by ImageMagick's format letters, after operations."""
+    answer = _run("convert", picture, *operations, "-format", wanted, "info:")
+    return [float(number) for number in answer.split()]
+
+
+def pages_of(pdf):
+    return int(re.search(r"^Pages:\s+(\d+)", _run("pdfinfo", pdf), re.MULTILINE).group(1))
+
+
+def first_page(pdf, path):
+    _run("pdftoppm", "-r", "72", "-png", "-singlefile", pdf, Path(path).with_suffix(""))
+    return path

@@ -43,6 +43,12 @@ protected:
         painter.drawPixmap(place, picture);
     }
 
+    bool event(QEvent* event) override {
+        // A mnemonic is a way to the button: the field that is left must know before the button acts.
+        if (event->type() == QEvent::Shortcut) setFocus(Qt::ShortcutFocusReason);
+        return QPushButton::event(event);
+    }
+
     void keyPressEvent(QKeyEvent* event) override {
         if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
             click();
@@ -77,7 +83,7 @@ Button::Button(Container& container, const ControlSpec& spec)
     if (*spec.picture != '\0') graphic.picture = compiledPicture(spec.picture);
     graphic.setAttribute(Qt::WA_Hover);
     QObject::connect(&graphic, &QAbstractButton::clicked, &graphic, [this] { clicked.raise(); });
-    setCaption(QString::fromUtf16(spec.caption));
+    Button::setCaption(QString::fromUtf16(spec.caption));
 }
 
 QAbstractButton& Button::button() const { return static_cast<QAbstractButton&>(widget()); }
@@ -94,7 +100,7 @@ OptionButton::OptionButton(Container& container, const ControlSpec& spec)
     QObject::connect(&button(), &QAbstractButton::toggled, &button(), [this](bool on) {
         if (on) chosen.raise();
     });
-    setCaption(QString::fromUtf16(spec.caption));
+    OptionButton::setCaption(QString::fromUtf16(spec.caption));
 }
 
 QAbstractButton& OptionButton::button() const { return static_cast<QAbstractButton&>(widget()); }

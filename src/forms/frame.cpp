@@ -41,7 +41,7 @@ ControlSpec opaque(ControlSpec spec) {
 Frame::Frame(Container& container, const ControlSpec& spec)
     : WidgetControl(container, opaque(spec), new FrameBox),
       Container(widget(), scaleTwips, container.controlList()) {
-    setCaption(QString::fromUtf16(spec.caption));
+    Frame::setCaption(QString::fromUtf16(spec.caption));
 }
 
 std::optional<QString> Frame::caption() const { return static_cast<const QGroupBox&>(widget()).title(); }

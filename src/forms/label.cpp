@@ -34,7 +34,7 @@ Label::Label(Container& container, const ControlSpec& spec) : WidgetControl(cont
     label().setWordWrap(true);
     label().setMargin(2);
     label().setMouseTracking(true);
-    setCaption(QString::fromUtf16(spec.caption));
+    Label::setCaption(QString::fromUtf16(spec.caption));
 }
 
 QLabel& Label::label() const { return static_cast<QLabel&>(widget()); }

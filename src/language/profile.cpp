@@ -13,7 +13,7 @@ namespace quarvel {
 namespace {
 
 /// Language files of any sensible size and well beyond are read; what is larger is no language file.
-constexpr qint64 largestReadBytes = 128 * 1024 * 1024;
+constexpr qint64 largestReadBytes = qint64{128} * 1024 * 1024;
 
 /// The small letter of every letter of Windows-1252, all other bytes as they are.
 constexpr std::array<char, 256> smallLetters = [] {

@@ -14,6 +14,7 @@ PrintOutcome QtFormPrinter::print(QWidget& window) {
     const QPrinterInfo defaultPrinter = QPrinterInfo::defaultPrinter();
     if (defaultPrinter.isNull()) return PrintOutcome::NoPrinter;
     QPrinter printer(defaultPrinter, QPrinter::HighResolution);
+    printer.setColorMode(QPrinter::Color); // a queue without a driver does not say that it can
     printer.setDocName(window.windowTitle());
     const QSizeF size = image.deviceIndependentSize();
     printer.setPageOrientation(size.width() > size.height() ? QPageLayout::Landscape : QPageLayout::Portrait);

@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace quarvel {
 namespace {
 
-constexpr qint64 largestSoundBytes = 64 * 1024 * 1024;
+constexpr qint64 largestSoundBytes = qint64{64} * 1024 * 1024;
 
 QAudioFormat formatOf(const WaveSound& sound) {
     QAudioFormat format;

@@ -31,6 +31,8 @@ constexpr std::array messages = {
         u"Non c'è alcuna stampante predefinita. Scegline una nelle impostazioni del sistema e riprova."},
     OwnMessage{u"0121",
                u"La stampa non è riuscita. Controlla che la stampante sia accesa e pronta, poi riprova."},
+    OwnMessage{u"0122",
+               u"L'aeroporto non è stato salvato: i dati che hai scritto sono ancora nella finestra."},
     // Why, and what to do.
     OwnMessage{u"0130", u"Questo file o questa cartella non esiste:\n%1\nControlla che sia al suo posto "
                         u"nell'archivio e riprova."},

@@ -23,6 +23,7 @@ QString numberOf(Task task) {
     case Task::ChooseChartFirst: return u"0119"_s;
     case Task::FindPrinter: return u"0120"_s;
     case Task::Print: return u"0121"_s;
+    case Task::SaveAirport: return u"0122"_s;
     }
     return {};
 }

@@ -24,6 +24,7 @@ enum class Task {
     ChooseChartFirst, ///< notes were to be saved without a chart of the list on show
     FindPrinter,
     Print,
+    SaveAirport, ///< a new airport's data file and presenter text file
 };
 
 /// The window's own questions and messages, in the current language.

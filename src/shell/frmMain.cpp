@@ -22,6 +22,12 @@ void frmMain::wire() {
     c->txtNomeAeroporto.events.keyUp.calls(this, &frmMain::txtNomeAeroporto_KeyUp);
     c->lstWords.clicked.calls(this, &frmMain::lstWords_Click);
     c->cmdElabora.clicked.calls(this, &frmMain::cmdElabora_Click);
+    c->txtRwy.forEach([this](int index, TextBox& field) {
+        field.events.keyPress.calls(this, &frmMain::txtRwy_KeyPress, index);
+        field.events.lostFocus.calls(this, &frmMain::txtRwy_LostFocus, index);
+    });
+    c->cmdSave.clicked.calls(this, &frmMain::cmdSave_Click);
+    c->cmdReset.clicked.calls(this, &frmMain::cmdReset_Click);
     c->cmdGrafica.clicked.calls(this, &frmMain::cmdGrafica_Click);
     c->cmdStampa.clicked.calls(this, &frmMain::cmdStampa_Click);
     c->cmdAzzera.clicked.calls(this, &frmMain::cmdAzzera_Click);
@@ -36,6 +42,7 @@ void frmMain::wire() {
 
 void frmMain::Form_Load() {
     presenterTextPath_.clear();
+    refusedDesignator_ = false;
     MLSFillMenuLanguages();
     language_.MLSApplyLanguage(*this);
     giveSpokenNames();

@@ -66,6 +66,17 @@ private:
     void cmdGrafica_Click();
     void cmdAzzera_Click();
 
+    // Entering and saving a new airport (frmMain_entry.cpp)
+    void txtRwy_KeyPress(int index, char16_t& key);
+    void txtRwy_LostFocus(int index);
+    void refuseDesignator(int index);
+    void cmdReset_Click();
+    void cmdSave_Click();
+    [[nodiscard]] bool CheckIcaoCode();
+    [[nodiscard]] AirportRecord typedRecord() const;
+    void backToEditing();
+    void endAfterSaving();
+
     // Search and opening (frmMain_opening.cpp)
     void txtNomeAeroporto_KeyPress(char16_t& key);
     void txtNomeAeroporto_KeyUp();
@@ -97,6 +108,7 @@ private:
     Presenter& presenter_;
 
     std::optional<QStringList> languages_; ///< the language list, built once per run
+    bool refusedDesignator_ = false;       ///< a designator above 18 is about to be told and emptied
     QString presenterTextPath_;            ///< of the open airport
 };
 

@@ -1,0 +1,96 @@
+#include "archive/entry_rules.h"
+#include "archive/saving.h"
+#include "shell/frmMain.h"
+#include "text/key_filter.h"
+
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+
+void frmMain::txtRwy_KeyPress(int /*index*/, char16_t& key) { key = UpperCaseKey(key); }
+
+void frmMain::txtRwy_LostFocus(int index) {
+    if (c == nullptr) return; // the window is going
+    const std::optional<PairedField> paired = pairedField(index);
+    if (!paired) return;
+    const QString text = c->txtRwy[index].text();
+    if (paired->rule == PairRule::Copy) {
+        c->txtRwy[paired->target].setText(text);
+        return;
+    }
+    const Designator designator = judgeDesignator(text);
+    if (designator.kind == DesignatorKind::Valid) c->txtRwy[paired->target].setText(designator.reciprocal);
+    if (designator.kind == DesignatorKind::Refused) refuseDesignator(index);
+}
+
+void frmMain::refuseDesignator(int index) {
+    refusedDesignator_ = true;
+    // A box in the middle of a change of focus would leave the button that was just pressed hanging.
+    QTimer::singleShot(0, window(), [this, index] {
+        static_cast<void>(prompts_.ask(*this, u"0033"_s, u"0034"_s, Buttons::Ok, BoxIcon::Information));
+        refusedDesignator_ = false;
+        if (c == nullptr) return;
+        c->txtRwy[index].setText({});
+        c->txtRwy[index].setFocus();
+    });
+}
+
+void frmMain::cmdReset_Click() {
+    c->txtRwy.forEach([](int /*index*/, TextBox& field) { field.setText({}); });
+    c->txtRwy[IcaoCode].setFocus();
+}
+
+bool frmMain::CheckIcaoCode() {
+    if (!c->txtRwy[IcaoCode].text().isEmpty()) return true;
+    static_cast<void>(prompts_.ask(*this, u"0035"_s, u"0036"_s, Buttons::Ok, BoxIcon::Exclamation));
+    if (c != nullptr) c->txtRwy[IcaoCode].setFocus();
+    return false;
+}
+
+void frmMain::backToEditing() {
+    if (c == nullptr) return;
+    UnlockFields();
+    c->txtRwy[IcaoCode].setFocus();
+}
+
+AirportRecord frmMain::typedRecord() const {
+    AirportRecord record;
+    c->txtRwy.forEach([&](int position, const TextBox& field) {
+        record.values[static_cast<std::size_t>(position)] = field.text();
+    });
+    return record;
+}
+
+void frmMain::cmdSave_Click() {
+    if (refusedDesignator_) return; // the message that refuses it is about to be shown
+    LockFields();
+    if (!CheckIcaoCode()) {
+        backToEditing();
+        return;
+    }
+    if (prompts_.ask(*this, u"0027"_s, u"0028"_s, Buttons::OkCancel, BoxIcon::None) != Answer::Ok ||
+        c == nullptr) {
+        backToEditing();
+        return;
+    }
+    const AirportRecord record = typedRecord();
+    if (const Result<void> saved = saveAirport(paths_, c->txtNomeAeroporto.text(), record); !saved) {
+        prompts_.tell(*this, Task::SaveAirport, saved.failure());
+        backToEditing();
+        return;
+    }
+    state_.CurrentIcao = record.values[IcaoCode];
+    endAfterSaving();
+}
+
+void frmMain::endAfterSaving() {
+    c->Frame3.setShown(Shown::No);
+    c->Frame5.setShown(Shown::Yes);
+    static_cast<void>(prompts_.ask(*this, u"0029"_s, u"0030"_s, Buttons::OkCancel, BoxIcon::None));
+    unload();
+    services_.process.endNow();
+}
+
+} // namespace quarvel

@@ -46,8 +46,14 @@ class Airport:
         self._folder = Path(program_folder) / "aeroporti" / name
 
     def record(self):
-        lines = (self._folder / "Aeroporto" / f"{self.name}.txt").read_bytes().decode(CODE_PAGE).split("\r\n")
+        lines = self.data_file().read_bytes().decode(CODE_PAGE).split("\r\n")
         return [line[1:-1] for line in lines[:ENTRIES]]
+
+    def data_file(self):
+        return self._folder / "Aeroporto" / f"{self.name}.txt"
+
+    def presenter_text(self, code):
+        return self._folder / f"{code}_Agent.txt"
 
     def picture(self):
         return self._folder / "Aeroporto" / f"{self.record()[ICAO_CODE]}.gif"

@@ -1,4 +1,5 @@
-"""The main job, done from outside: find an airport, read its data, work with its charts, print, switch language.
+"""The main job, done from outside: find an airport, read its data, work with its charts, print, switch language;
+then enter a new airport, and find it after a restart.
 
 Usage: main_job.py EXECUTABLE DATA SCRATCH PICTURES      (in the desktop of scripts/with-desktop)
 """
@@ -7,6 +8,7 @@ import sys
 
 import airport_steps
 import chart_steps
+import entry_steps
 import note_steps
 from stage import Stage
 
@@ -23,6 +25,9 @@ def main(stage):
     airport_steps.go_back(stage)
     airport_steps.switch_language(stage)
     airport_steps.close(stage)
+    entry_steps.type_a_new_airport(stage)
+    entry_steps.save_it(stage)
+    entry_steps.find_it_again(stage)
     stage.steps.done()
 
 

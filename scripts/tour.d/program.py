@@ -19,6 +19,10 @@ class Program:
         if language:
             settings = f"[Language]\r\nCurrentLanguage={language}\r\n"
             (self.folder / "LangSetting.ini").write_bytes(settings.encode())
+        self.start()
+
+    def start(self):
+        """Starts it; for the second time, too, once it has ended."""
         self._log = (self.folder.parent / "program.log").open("w+", encoding="utf-8")
         self._process = subprocess.Popen([self.folder / "quarvel"], stdout=self._log, stderr=self._log)
         try:

@@ -17,8 +17,11 @@ class Window:
 
     def __init__(self, program, language):
         self.program = program
-        self.shown = program.shown
         self.language = language
+
+    @property
+    def shown(self):
+        return self.program.shown
 
     def caption(self, control):
         return self.language.caption(self.name, control)
@@ -100,6 +103,9 @@ class MainWindow(Window):
             row, column = divmod(position - 3, 5)
             found[position] = f"{self.caption(COLUMNS[column])} {row + 1}"
         return found
+
+    def entry_field(self, position):
+        return self.shown.one("text", self.headings()[position])
 
     def record(self):
         """The 39 values on show."""

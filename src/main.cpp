@@ -1,4 +1,5 @@
 #include "forms/look.h"
+#include "platform/font_preparation.h"
 #include "platform/services.h"
 #include "presenter/presenter.h"
 #include "shell/program.h"
@@ -8,14 +9,16 @@
 using namespace Qt::StringLiterals;
 
 int main(int argc, char** argv) {
+    quarvel::FontPreparation fonts;
     QApplication application(argc, argv);
+    fonts.finish();
     QApplication::setApplicationName(u"Quarvel"_s);
     QApplication::setDesktopFileName(u"quarvel"_s);
     QApplication::setQuitOnLastWindowClosed(false); // windows that wait behind others are only hidden
     quarvel::applyProgramLook(application);
 
     quarvel::QtMessageBoxes messageBoxes;
-    quarvel::QtSoundPlayer sounds;
+    quarvel::DesktopSoundPlayer sounds;
     quarvel::QtFormPrinter printer;
     quarvel::QtUrlOpener urls;
     quarvel::QtScreen screen;

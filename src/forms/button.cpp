@@ -20,7 +20,7 @@ ControlSpec coloured(ControlSpec spec) {
 /// A push button drawn with its picture above its caption, in as much room as the caption leaves.
 class GraphicButton : public QPushButton {
 public:
-    QPixmap picture;
+    const char* pictureName = "";
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
@@ -33,14 +33,16 @@ protected:
         painter.setPen(
             palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::ButtonText));
         painter.drawText(inside, flags, this->text());
-        if (picture.isNull()) return;
-        const QSize natural = picture.deviceIndependentSize().toSize();
+        if (*pictureName == '\0') return;
+        // Most buttons wait in hidden frames: a picture is read when its button is first seen.
+        if (picture_.isNull()) picture_ = compiledPicture(pictureName);
+        const QSize natural = picture_.deviceIndependentSize().toSize();
         const int room = std::min(natural.height(), text.top() - inside.top());
         QRect place(0, 0, natural.width() * room / natural.height(), room);
         place.moveCenter({inside.center().x(), (inside.top() + text.top()) / 2});
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.setOpacity(isEnabled() ? 1.0 : 0.35);
-        painter.drawPixmap(place, picture);
+        painter.drawPixmap(place, picture_);
     }
 
     bool event(QEvent* event) override {
@@ -57,6 +59,8 @@ protected:
     }
 
 private:
+    QPixmap picture_;
+
     void paintFace(QPainter& painter) {
         const bool hovered = underMouse() && isEnabled();
         const QColor top = isDown()  ? QColor(196, 198, 226)
@@ -80,7 +84,7 @@ private:
 Button::Button(Container& container, const ControlSpec& spec)
     : WidgetControl(container, coloured(spec), new GraphicButton) {
     auto& graphic = static_cast<GraphicButton&>(widget());
-    if (*spec.picture != '\0') graphic.picture = compiledPicture(spec.picture);
+    graphic.pictureName = spec.picture;
     graphic.setAttribute(Qt::WA_Hover);
     QObject::connect(&graphic, &QAbstractButton::clicked, &graphic, [this] { clicked.raise(); });
     Button::setCaption(QString::fromUtf16(spec.caption));

@@ -68,7 +68,10 @@ std::vector<Control*> Form::controls() const {
     return widget_ ? widget_->controls() : std::vector<Control*>();
 }
 
-void Form::processPendingMessages() { QCoreApplication::processEvents(); }
+void Form::processPendingMessages() {
+    // A window that is not on the screen has nothing to paint and no input to take.
+    if (widget_ && widget_->isVisible()) QCoreApplication::processEvents();
+}
 
 bool Form::isLoaded() const { return !widget_.isNull(); }
 

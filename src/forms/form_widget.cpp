@@ -51,6 +51,7 @@ bool FormWidget::event(QEvent* event) {
 }
 
 void FormWidget::activated() {
+    showProgramIcon();
     if (centreOn_) centreOuterFrame();
     if (leftForOwnBox_) {
         if (ownBoxes_ == 0) leftForOwnBox_ = false;

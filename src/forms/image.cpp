@@ -72,7 +72,9 @@ Image::Image(Container& container, const ControlSpec& spec) : WidgetControl(cont
     ImageArea& area = areaOf(*this);
     area.owner = this;
     area.setAttribute(Qt::WA_OpaquePaintEvent, false);
-    if (*spec.picture != '\0') area.compiled = compiledPicture(spec.picture);
+    if (*spec.picture == '\0') return;
+    setPicture(compiledDecoration(spec.picture));
+    if (area.picture.isNull()) area.compiled = compiledPicture(spec.picture);
 }
 
 void Image::setPicture(const Picture& picture) {

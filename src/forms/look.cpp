@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QPalette>
 #include <QStyleFactory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -32,6 +33,11 @@ void applyProgramLook(QApplication& application) {
     palette.setColor(QPalette::ToolTipText, colour::ink);
     QApplication::setPalette(palette);
     application.setFont(fontOf({}));
+}
+
+void showProgramIcon() {
+    static bool shown = false;
+    if (std::exchange(shown, true)) return;
     QIcon icon;
     for (const char* size : {"quarvel-16", "quarvel-32", "quarvel-48", "quarvel-128"})
         icon.addPixmap(compiledPicture(size));

@@ -36,4 +36,8 @@ inline constexpr QColor accent{255, 180, 60};
 /// Sets the program's own style and colours, so that every desktop shows the windows as they were drawn.
 void applyProgramLook(QApplication& application);
 
+/// Gives the windows the program's icon, once. It waits for the first window to be active, which is when a
+/// window manager is there to show it and when the window itself has been painted.
+void showProgramIcon();
+
 } // namespace quarvel

@@ -1,15 +1,12 @@
 #include "platform/sound_player.h"
 
 #include "files/whole_file.h"
+#include "platform/pulse_stream.h"
 #include "platform/wave_file.h"
 
 #include <QApplication>
-#include <QAudioDevice>
-#include <QAudioFormat>
-#include <QAudioSink>
-#include <QBuffer>
 #include <QLibrary>
-#include <QMediaDevices>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -17,14 +14,6 @@ namespace quarvel {
 namespace {
 
 constexpr qint64 largestSoundBytes = qint64{64} * 1024 * 1024;
-
-QAudioFormat formatOf(const WaveSound& sound) {
-    QAudioFormat format;
-    format.setSampleRate(sound.sampleRate);
-    format.setChannelCount(sound.channels);
-    format.setSampleFormat(sound.bitsPerSample == 8 ? QAudioFormat::UInt8 : QAudioFormat::Int16);
-    return format;
-}
 
 /// The sound theme's bell, through the desktop's event-sound library where there is one, else the window
 /// system's bell. The library is looked for only now: most runs never need it.
@@ -44,31 +33,17 @@ void playDefaultSound() {
 
 } // namespace
 
-struct QtSoundPlayer::Playing {
-    QByteArray samples;
-    QBuffer source;
-    std::unique_ptr<QAudioSink> sink;
-};
+DesktopSoundPlayer::DesktopSoundPlayer() = default;
+DesktopSoundPlayer::~DesktopSoundPlayer() = default;
 
-QtSoundPlayer::QtSoundPlayer() = default;
-QtSoundPlayer::~QtSoundPlayer() = default;
-
-void QtSoundPlayer::play(const QString& path) {
+void DesktopSoundPlayer::play(const QString& path) {
     playing_.reset();
     const Result<QByteArray> file = readWholeFile(path, largestSoundBytes);
     const std::optional<WaveSound> sound = file ? readWave(file.value()) : std::nullopt;
-    if (!sound) {
+    if (sound)
+        playing_ = PulseStream::start(*sound);
+    else
         playDefaultSound();
-        return;
-    }
-    const QAudioDevice device = QMediaDevices::defaultAudioOutput();
-    if (device.isNull()) return;
-    playing_ = std::make_unique<Playing>();
-    playing_->samples = sound->samples;
-    playing_->source.setBuffer(&playing_->samples);
-    playing_->source.open(QIODevice::ReadOnly);
-    playing_->sink = std::make_unique<QAudioSink>(device, formatOf(*sound));
-    playing_->sink->start(&playing_->source);
 }
 
 } // namespace quarvel

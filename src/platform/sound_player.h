@@ -13,20 +13,23 @@ public:
     SoundPlayer& operator=(const SoundPlayer&) = delete;
     virtual ~SoundPlayer() = default;
     /// Starts a wave file and returns at once; a sound that still plays is cut off. When the file cannot be
-    /// played the desktop's default sound plays instead. Without a sound device nothing happens.
+    /// played the desktop's default sound plays instead. Without a sound server nothing happens.
     virtual void play(const QString& path) = 0;
 };
 
-/// Plays on the desktop's default sound device, which is looked for at the first sound.
-class QtSoundPlayer : public SoundPlayer {
+class PulseStream;
+
+/// Plays through the desktop's PulseAudio-compatible sound server. Its library is looked for at the first
+/// sound and nothing is linked for it: a program that is silent most of the time need not load it at every
+/// start.
+class DesktopSoundPlayer : public SoundPlayer {
 public:
-    QtSoundPlayer();
-    ~QtSoundPlayer() override;
+    DesktopSoundPlayer();
+    ~DesktopSoundPlayer() override;
     void play(const QString& path) override;
 
 private:
-    struct Playing;
-    std::unique_ptr<Playing> playing_;
+    std::unique_ptr<PulseStream> playing_;
 };
 
 } // namespace quarvel

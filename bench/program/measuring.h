@@ -1,0 +1,65 @@
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+namespace quarvel::bench {
+
+using Pieces = std::vector<std::function<void()>>;
+
+/// How long a piece of work takes, in milliseconds.
+inline double milliseconds(const std::function<void()>& work) {
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
+}
+
+inline double median(std::vector<double> values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+/// The median of each piece of work, in milliseconds. The pieces take turns, forwards and backwards, so that
+/// a busy machine spoils all of them alike; two rounds go before that are not counted.
+inline std::vector<double> medians(int rounds, const Pieces& pieces) {
+    std::vector<std::vector<double>> times(pieces.size());
+    for (int round = -2; round < rounds; ++round)
+        for (std::size_t i = 0; i < pieces.size(); ++i) {
+            const std::size_t piece = round % 2 == 0 ? i : pieces.size() - 1 - i;
+            const double time = milliseconds(pieces[piece]);
+            if (round >= 0) times[piece].push_back(time);
+        }
+    std::vector<double> middles;
+    for (const auto& all : times) middles.push_back(median(all));
+    return middles;
+}
+
+// The rows that scripts/bench gathers: claim, measured, against what, ratio, budget and whether it is kept,
+// between tabs.
+
+/// A row for `measured` against `base` (both in milliseconds), whose ratio is to be at most `budget`; a
+/// budget of 0 is none.
+inline void printRatio(const char* claim, double measured, const char* baseName, double base, double budget) {
+    const double ratio = measured / base;
+    std::printf("%s\t%.2f ms\t%s: %.2f ms\t%.2f\t", claim, measured, baseName, base, ratio);
+    if (budget > 0)
+        std::printf("at most %.1f times\t%s\n", budget, ratio <= budget ? "within" : "OVER");
+    else
+        std::printf("none\t\n");
+    std::fflush(stdout);
+}
+
+/// A row for a figure that is to be at most `budget`, both in `unit`; `against` may say what it is over.
+inline void printFigure(const char* claim, double figure, const char* against, double budget,
+                        const char* unit) {
+    std::printf("%s\t%.2f %s\t%s\t\tat most %.0f %s\t%s\n", claim, figure, unit, against, budget, unit,
+                figure <= budget ? "within" : "OVER");
+    std::fflush(stdout);
+}
+
+} // namespace quarvel::bench

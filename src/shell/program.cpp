@@ -30,7 +30,7 @@ std::vector<Form*> Program::loaded() const {
 void Program::unloaded(Form& form) {
     std::erase(inLoadingOrder_, &form);
     // Whoever unloads a window may show the next one in the same breath.
-    QTimer::singleShot(0, qApp, [this] {
+    QTimer::singleShot(0, &life_, [this] {
         if (inLoadingOrder_.empty()) QCoreApplication::quit();
     });
 }

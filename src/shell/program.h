@@ -10,6 +10,7 @@
 #include "state/process_state.h"
 #include "viewer/frmView.h"
 
+#include <QObject>
 #include <QString>
 #include <vector>
 
@@ -40,6 +41,7 @@ private:
     frmMain main_;
     frmView view_;
     std::vector<Form*> inLoadingOrder_;
+    QObject life_; ///< what is still to be done goes with the program
 };
 
 } // namespace quarvel

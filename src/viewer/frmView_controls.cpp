@@ -28,10 +28,10 @@ frmViewControls::Options::Options(frmViewControls& all) {
         double width;
         const char16_t* caption;
     };
-    constexpr std::array<Option, 3> options = {
+    constexpr std::array<Option, 3> families = {
         {{240, 1100, u"SID"}, {1440, 1220, u"STAR"}, {2760, 2100, u"APPROACH"}}};
     int index = 0;
-    for (const Option& option : options)
+    for (const Option& option : families)
         all.Option1.add(all.Frame2, {.name = "Option1",
                                      .index = index++,
                                      .place = {option.left, 480, option.width, 300},

@@ -14,7 +14,6 @@ namespace quarvel {
 
 /// How the codes of a frame come about.
 enum class Packing {
-    Literals, ///< every pixel a code, the table cleared before it would grow: no compression
     Clearing, ///< LZW that clears its table once it is full
     Deferred, ///< LZW that goes on with the full table to the end
 };
@@ -26,7 +25,6 @@ struct GifRecipe {
     std::vector<std::uint8_t> pixels;   ///< of the frame, row 0 on top
     std::vector<std::uint32_t> colours; ///< 0xRRGGBB, 1 to 256 of them; the table is filled up with black
     Packing packing = Packing::Clearing;
-    bool localTable = false;
     bool interlaced = false;
     bool moreBlocks = false; ///< a comment, an application's block and, behind the frame, a second frame
     std::optional<std::uint8_t> transparent = {};
@@ -57,17 +55,6 @@ private:
     std::uint64_t bits_ = 0;
     unsigned held_ = 0;
 };
-
-inline QByteArray literals(const std::vector<std::uint8_t>& pixels, unsigned rootBits) {
-    CodeWriter out;
-    const unsigned clear = 1u << rootBits;
-    for (std::size_t i = 0; i < pixels.size(); ++i) {
-        if (i % (clear - 2) == 0) out.put(clear, rootBits + 1);
-        out.put(pixels[i], rootBits + 1);
-    }
-    out.put(clear + 1, rootBits + 1);
-    return out.finish();
-}
 
 inline QByteArray lzw(const std::vector<std::uint8_t>& pixels, unsigned rootBits, Packing packing) {
     CodeWriter out;
@@ -143,14 +130,11 @@ inline void frame(QByteArray& out, const GifRecipe& recipe) {
     out.append(',');
     for (const int value : {recipe.place.x(), recipe.place.y(), recipe.place.width(), recipe.place.height()})
         word(out, value);
-    const int tableFlags = recipe.localTable ? 0x80 | (tableBits(recipe.colours) - 1) : 0;
-    out.append(static_cast<char>(tableFlags | (recipe.interlaced ? 0x40 : 0)));
-    if (recipe.localTable) table(out, recipe.colours);
+    out.append(recipe.interlaced ? '\x40' : '\0');
     const auto rootBits = static_cast<unsigned>(std::max(2, tableBits(recipe.colours)));
     out.append(static_cast<char>(rootBits));
     const auto& rows = recipe.interlaced ? interlacedRows(recipe.pixels, recipe.place.size()) : recipe.pixels;
-    subBlocks(out, recipe.packing == Packing::Literals ? literals(rows, rootBits)
-                                                       : lzw(rows, rootBits, recipe.packing));
+    subBlocks(out, lzw(rows, rootBits, recipe.packing));
 }
 
 } // namespace gif_maker
@@ -160,11 +144,9 @@ inline QByteArray makeGif(const GifRecipe& recipe) {
     QByteArray out("GIF89a");
     word(out, recipe.screen.width());
     word(out, recipe.screen.height());
-    // A screen's table must not show where the frame has one of its own.
-    const Colours general = recipe.localTable ? Colours{0xFF00FF, 0x00FF00, 0x0000FF} : recipe.colours;
-    out.append(static_cast<char>(0x80 | (tableBits(general) - 1)));
+    out.append(static_cast<char>(0x80 | (tableBits(recipe.colours) - 1)));
     out.append(QByteArray(2, '\0'));
-    table(out, general);
+    table(out, recipe.colours);
     if (recipe.moreBlocks) {
         out.append("!\xFE");
         subBlocks(out, QByteArray("a comment, not so short: ").repeated(15));

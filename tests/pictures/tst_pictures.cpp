@@ -51,75 +51,56 @@ class PicturesTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void filtersExactly_data();
-    void filtersExactly();
-    void paintsPartsAsCropsOfTheWhole_data();
-    void paintsPartsAsCropsOfTheWhole();
-};
-
-void PicturesTest::filtersExactly_data() {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<QSizeF>("stretched");
-    QTest::newRow("smaller") << QSize(260, 170) << QSizeF(86.7, 51.3);
-    QTest::newRow("half") << QSize(260, 170) << QSizeF(130, 85);
-    QTest::newRow("hardly smaller") << QSize(60, 50) << QSizeF(59.6, 49.9);
-    QTest::newRow("a few pixels left") << QSize(900, 700) << QSizeF(7.3, 5.8);
-    QTest::newRow("larger") << QSize(40, 30) << QSizeF(122, 69.7);
-    QTest::newRow("hardly larger") << QSize(40, 30) << QSizeF(40.4, 30.6);
-    QTest::newRow("wider and lower") << QSize(50, 90) << QSizeF(131.2, 33.3);
-    QTest::newRow("narrower and higher") << QSize(150, 40) << QSizeF(40.9, 97);
-    QTest::newRow("only wider") << QSize(50, 40) << QSizeF(75, 40);
-    QTest::newRow("only lower") << QSize(50, 40) << QSizeF(50, 13.37);
-    QTest::newRow("a single pixel") << QSize(1, 1) << QSizeF(5, 0.7);
-    QTest::newRow("a line") << QSize(1, 60) << QSizeF(4, 20);
-}
-
-void PicturesTest::filtersExactly() {
-    QFETCH(QSize, size);
-    QFETCH(QSizeF, stretched);
-    const Picture picture = decoded(recipe(size, 256, Packing::Clearing));
-    const QSize shownSize(qRound(stretched.width()), qRound(stretched.height()));
-    QImage image(shownSize + QSize(1, 1), QImage::Format_RGB32);
-    paintPicture(picture, stretched, image.rect(), image);
-    double worst = 0;
-    for (int y = 0; y < shownSize.height(); ++y)
-        for (int x = 0; x < shownSize.width(); ++x)
-            worst = std::max(worst, errorAt(picture, stretched, x, y, image.pixel(x, y)));
-    QVERIFY2(worst < 0.51, qPrintable(QString::number(worst))); // rounded once, at the end
-    QCOMPARE(image.pixel(shownSize.width(), 0), qRgb(255, 255, 255));
-    QCOMPARE(image.pixel(0, shownSize.height()), qRgb(255, 255, 255));
-}
-
-void PicturesTest::paintsPartsAsCropsOfTheWhole_data() {
-    QTest::addColumn<QSizeF>("stretched");
-    QTest::newRow("smaller") << QSizeF(90.1, 66.6);
-    QTest::newRow("natural") << QSizeF(300, 200);
-    QTest::newRow("larger") << QSizeF(555.5, 640.2);
-    QTest::newRow("narrower and higher") << QSizeF(120.4, 300.3);
-}
-
-void PicturesTest::paintsPartsAsCropsOfTheWhole() {
-    QFETCH(QSizeF, stretched);
-    GifRecipe made = recipe({300, 200}, 30, Packing::Clearing);
-    for (std::size_t i = 0; i < made.pixels.size(); ++i) // mostly paper, as a chart is
-        if (i / 40 % 3) made.pixels[i] = 4;
-    const Picture picture = decoded(made);
-    const int margin = 10; // of white all round
-    const QRect everything =
-        QRectF(QPointF(0, 0), stretched).toAlignedRect().adjusted(-margin, -margin, margin, margin);
-    QImage whole(everything.size(), QImage::Format_RGB32);
-    paintPicture(picture, stretched, everything, whole);
-    QCOMPARE(whole.pixel(margin - 1, margin + 5), qRgb(255, 255, 255));
-    QRandomGenerator random(3);
-    for (int round = 0; round < 60; ++round) {
-        const QPoint corner(random.bounded(whole.width() - 1), random.bounded(whole.height() - 1));
-        const QRect crop(corner, QSize(1 + random.bounded(whole.width() - corner.x()),
-                                       1 + random.bounded(whole.height() - corner.y())));
-        QImage part(crop.size(), QImage::Format_RGB32);
-        paintPicture(picture, stretched, crop.translated(everything.topLeft()), part);
-        QCOMPARE(part, whole.copy(crop));
+    void filtersExactly_data() {
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<QSizeF>("stretched");
+        QTest::newRow("smaller") << QSize(260, 170) << QSizeF(86.7, 51.3);
+        QTest::newRow("hardly smaller") << QSize(60, 50) << QSizeF(59.6, 49.9);
+        QTest::newRow("a few pixels left") << QSize(900, 700) << QSizeF(7.3, 5.8);
+        QTest::newRow("larger") << QSize(40, 30) << QSizeF(122, 69.7);
+        QTest::newRow("wider and lower") << QSize(50, 90) << QSizeF(131.2, 33.3);
+        QTest::newRow("only lower") << QSize(50, 40) << QSizeF(50, 13.37);
+        QTest::newRow("a single pixel") << QSize(1, 1) << QSizeF(5, 0.7);
     }
-}
+
+    void filtersExactly() {
+        QFETCH(QSize, size);
+        QFETCH(QSizeF, stretched);
+        const Picture picture = decoded(recipe(size, 256, Packing::Clearing));
+        const QSize shownSize(qRound(stretched.width()), qRound(stretched.height()));
+        QImage image(shownSize + QSize(1, 1), QImage::Format_RGB32);
+        paintPicture(picture, stretched, image.rect(), image);
+        double worst = 0;
+        for (int y = 0; y < shownSize.height(); ++y)
+            for (int x = 0; x < shownSize.width(); ++x)
+                worst = std::max(worst, errorAt(picture, stretched, x, y, image.pixel(x, y)));
+        QVERIFY2(worst < 0.51, qPrintable(QString::number(worst))); // rounded once, at the end
+        QCOMPARE(image.pixel(shownSize.width(), 0), qRgb(255, 255, 255));
+        QCOMPARE(image.pixel(0, shownSize.height()), qRgb(255, 255, 255));
+    }
+
+    void paintsPartsAsCropsOfTheWhole() {
+        GifRecipe made = recipe({300, 200}, 30, Packing::Clearing);
+        for (std::size_t i = 0; i < made.pixels.size(); ++i) // mostly paper, as a chart is
+            if (i / 40 % 3) made.pixels[i] = 4;
+        const Picture picture = decoded(made);
+        QRandomGenerator random(3);
+        for (const QSizeF stretched : {QSizeF(90.1, 66.6), {300, 200}, {555.5, 640.2}, {120.4, 300.3}}) {
+            const QRect everything = QRect(QPoint(0, 0), stretched.toSize()).adjusted(-10, -10, 10, 10);
+            QImage whole(everything.size(), QImage::Format_RGB32);
+            paintPicture(picture, stretched, everything, whole);
+            QCOMPARE(whole.pixel(9, 15), qRgb(255, 255, 255)); // all round
+            for (int round = 0; round < 60; ++round) {
+                const QPoint corner(random.bounded(whole.width() - 1), random.bounded(whole.height() - 1));
+                const QRect crop(corner, QSize(1 + random.bounded(whole.width() - corner.x()),
+                                               1 + random.bounded(whole.height() - corner.y())));
+                QImage part(crop.size(), QImage::Format_RGB32);
+                paintPicture(picture, stretched, crop.translated(everything.topLeft()), part);
+                QCOMPARE(part, whole.copy(crop));
+            }
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(PicturesTest)
 #include "tst_pictures.moc"

@@ -6,174 +6,9 @@
 #include <QFile>
 #include <QGroupBox>
 #include <QRegularExpression>
-#include <QSet>
 
 using namespace quarvel;
 using namespace Qt::StringLiterals;
-
-/// The language list, the flags, and the shipped language files.
-class LanguageChoiceTest : public QObject {
-    Q_OBJECT
-
-private Q_SLOTS:
-    void flagSwitchesAllTextsAndIsRemembered();
-    void startLanguage_data();
-    void startLanguage();
-    void thirdLanguageIsListedButHasNoFlag();
-    void withoutLanguageFilesTheDesignedTextsStay();
-    void reloadedMainWindowShowsTheSameList();
-    void noTwoButtonsOnShowShareAMnemonic_data();
-    void noTwoButtonsOnShowShareAMnemonic();
-    void shippedFilesHoldEveryKeyAndNoOther_data();
-    void shippedFilesHoldEveryKeyAndNoOther();
-
-private:
-    static QString caption(QWidget* window, const QString& button) {
-        return TestProgram::control<QAbstractButton>(window, button)->text();
-    }
-    static QStringList items(TestProgram& test, QString* checked = nullptr) {
-        QStringList captions;
-        for (const auto* action : test.mainWindow()->findChildren<QAction*>())
-            if (action->objectName().startsWith(u"mnuLanguage("_s)) {
-                captions.append(action->text());
-                if (checked != nullptr && action->isChecked()) *checked = action->text();
-            }
-        return captions;
-    }
-};
-
-void LanguageChoiceTest::flagSwitchesAllTextsAndIsRemembered() {
-    TestProgram test;
-    test.start();
-    QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Uscita"_s);
-    TestProgram::click(test.mainWindow(), u"ImgLingua(0)"_s);
-    QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
-    QCOMPARE(TestProgram::control<QGroupBox>(test.mainWindow(), u"Frame2"_s)->title(), u"LANGUAGE"_s);
-    QCOMPARE(TestProgram::control(test.mainWindow(), u"txtRwy(38)"_s)->accessibleName(), u"ICAO CODE"_s);
-    QCOMPARE(test.read(u"LangSetting.ini"_s), "[Language]\r\nCurrentLanguage=English\r\n");
-    test.start(); // again
-    QString checked;
-    items(test, &checked);
-    QCOMPARE(checked, u"English"_s);
-    QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
-}
-
-void LanguageChoiceTest::startLanguage_data() {
-    QTest::addColumn<QByteArray>("setting"); // empty: no setting file
-    QTest::addColumn<QStringList>("files");
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QString>("checked");
-    const QStringList both{u"English"_s, u"Italiano"_s};
-    QTest::newRow("as the setting says") << QByteArray("English") << both << u"English"_s << u"English"_s;
-    QTest::newRow("no setting file: Italiano") << QByteArray() << both << u"Italiano"_s << u"Italiano"_s;
-    QTest::newRow("neither: the first listed")
-        << QByteArray() << QStringList{u"English"_s} << u"English"_s << u"English"_s;
-    QTest::newRow("a setting that names no listed language")
-        << QByteArray("Klingon") << both << u"Klingon"_s << QString();
-    QTest::newRow("letter case counts for the mark")
-        << QByteArray("english") << both << u"english"_s << QString();
-}
-
-void LanguageChoiceTest::startLanguage() {
-    QFETCH(QByteArray, setting);
-    QFETCH(QStringList, files);
-    QFETCH(QString, language);
-    TestProgram test;
-    QFile::remove(test.path(u"LangSetting.ini"_s));
-    if (!setting.isEmpty())
-        test.write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=" + setting + "\r\n");
-    if (!files.contains(u"Italiano"_s)) QFile::remove(test.path(u"Italiano.lng"_s));
-    test.start();
-    QString checked;
-    QCOMPARE(items(test, &checked), files);
-    QTEST(checked, "checked");
-    QCOMPARE(test.program().state().MLSCurrentLanguage, language);
-    QCOMPARE(QFile::exists(test.path(u"LangSetting.ini"_s)), !setting.isEmpty()); // nothing written
-    QWidget* flag = TestProgram::control(test.mainWindow(), u"ImgLingua(1)"_s);
-    QCOMPARE(flag->isEnabled(), files.size() > 1);
-    const QImage asShown = flag->grab().toImage();
-    flag->setEnabled(!flag->isEnabled());
-    QVERIFY(flag->grab().toImage() != asShown); // a disabled flag looks it
-}
-
-void LanguageChoiceTest::thirdLanguageIsListedButHasNoFlag() {
-    TestProgram test;
-    QFile::copy(test.path(u"English.lng"_s), test.path(u"Svenska.LNG"_s));
-    test.start();
-    QCOMPARE(items(test), QStringList({u"English"_s, u"Italiano"_s, u"Svenska"_s}));
-    TestProgram::click(test.mainWindow(), u"ImgLingua(0)"_s);
-    QCOMPARE(test.program().state().MLSCurrentLanguage, u"English"_s);
-    test.program().mainWindow().SelectLanguage(2);
-    QCOMPARE(test.program().state().MLSCurrentLanguage, u"Svenska"_s);
-    QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
-}
-
-void LanguageChoiceTest::withoutLanguageFilesTheDesignedTextsStay() {
-    TestProgram test;
-    QFile::remove(test.path(u"English.lng"_s));
-    QFile::remove(test.path(u"Italiano.lng"_s));
-    test.start();
-    QCOMPARE(test.boxes.shown.size(), 1);
-    QCOMPARE(test.boxes.shown.first().text, u"Non è presente alcun file di linguaggio!"_s);
-    QCOMPARE(test.boxes.shown.first().icon, BoxIcon::None);
-    QCOMPARE(test.boxes.captions.first().ok, u"OK"_s);
-    QCOMPARE(caption(test.mainWindow(), u"cmdElabora"_s), u"&CREA"_s);
-    QVERIFY(!test.mainWindow()->windowTitle().isEmpty());
-    QCOMPARE(test.program().state().MLSCurrentLanguage, QString());
-    TestProgram::click(test.mainWindow(), u"ImgLingua(0)"_s); // disabled
-    QCOMPARE(test.program().state().MLSCurrentLanguage, QString());
-    // The program's own messages have their Italian texts built in.
-    TestProgram::control(test.mainWindow(), u"cmdElabora"_s)->setEnabled(true);
-    TestProgram::click(test.mainWindow(), u"cmdElabora"_s);
-    QVERIFY(test.boxes.shown.last().text.contains(u"Il nome scelto"_s));
-}
-
-void LanguageChoiceTest::reloadedMainWindowShowsTheSameList() {
-    TestProgram test;
-    test.addAirport(u"LIRF"_s);
-    test.start();
-    TestProgram::click(test.mainWindow(), u"ImgLingua(0)"_s);
-    QFile::copy(test.path(u"English.lng"_s), test.path(u"Altra.lng"_s));
-    QFile::remove(test.path(u"LangSetting.ini"_s));
-    test.openViewer(u"LIRF"_s);
-    TestProgram::click(test.viewWindow(), u"Option1(0)"_s);
-    TestProgram::click(test.viewWindow(), u"Command3"_s);
-    QString checked;
-    QCOMPARE(items(test, &checked), QStringList({u"English"_s, u"Italiano"_s}));
-    QCOMPARE(checked, u"English"_s);
-    QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
-}
-
-void LanguageChoiceTest::noTwoButtonsOnShowShareAMnemonic_data() {
-    QTest::addColumn<int>("language");
-    QTest::newRow("English") << 0;
-    QTest::newRow("Italiano") << 1;
-}
-
-void LanguageChoiceTest::noTwoButtonsOnShowShareAMnemonic() {
-    QFETCH(int, language);
-    const auto mnemonics = [](const QWidget* window) {
-        QStringList keys;
-        for (const auto* button : window->findChildren<QAbstractButton*>())
-            if (button->isVisible() && button->isEnabled() && !button->shortcut().isEmpty())
-                keys.append(button->shortcut().toString());
-        return keys;
-    };
-    TestProgram test;
-    test.addAirport(u"LIRF"_s);
-    test.start();
-    test.program().mainWindow().SelectLanguage(language);
-    test.type(u"LIRF"_s);
-    TestProgram::clickRow(test.mainWindow(), u"lstWords"_s, 0);
-    TestProgram::click(test.mainWindow(), u"cmdInfo"_s);
-    QStringList keys = mnemonics(test.mainWindow());
-    QCOMPARE(keys.removeDuplicates(), 0);
-    TestProgram::click(test.mainWindow(), u"cmdGrafica"_s);
-    TestProgram::click(test.viewWindow(), u"Option1(0)"_s);
-    keys = mnemonics(test.viewWindow());
-    QVERIFY(!keys.isEmpty());
-    QCOMPARE(keys.removeDuplicates(), 0);
-}
 
 namespace {
 
@@ -201,42 +36,142 @@ QStringList messageNumbers() {
 
 } // namespace
 
-void LanguageChoiceTest::shippedFilesHoldEveryKeyAndNoOther_data() {
-    QTest::addColumn<QString>("file");
-    QTest::newRow("Italiano") << u"Italiano.lng"_s;
-    QTest::newRow("English") << u"English.lng"_s;
-}
+/// The language list, the flags, and the shipped language files.
+class LanguageChoiceTest : public QObject {
+    Q_OBJECT
 
-void LanguageChoiceTest::shippedFilesHoldEveryKeyAndNoOther() {
-    QFETCH(QString, file);
-    TestProgram test;
-    const QByteArray content = test.read(file);
-    QFile::remove(test.path(u"Italiano.lng"_s)); // the windows are asked for their designed texts
-    test.addAirport(u"LIRF"_s);
-    test.start();
-    QStringList needed;
-    for (const QString& key : keysOf(test.program().mainWindow())) needed.append(u"frmMain/"_s + key);
-    test.openViewer(u"LIRF"_s);
-    for (const QString& key : keysOf(test.program().viewWindow())) needed.append(u"frmView/"_s + key);
-    for (const QString& number : messageNumbers()) needed.append(u"Strings/"_s + number);
-
-    QStringList held;
-    QString section;
-    static const QRegularExpression form(u"^([^=\\s]+)=\"(.+)\"$"_s);
-    for (const QString& line : QString::fromLatin1(content).split(u"\r\n"_s, Qt::SkipEmptyParts)) {
-        if (line.startsWith(u'[')) {
-            section = line.mid(1, line.size() - 2);
-            continue;
-        }
-        const QRegularExpressionMatch entry = form.match(line);
-        QVERIFY2(entry.hasMatch(), qPrintable(line));
-        QVERIFY2(entry.captured(2).size() <= 511, qPrintable(line));
-        held.append(section + u'/' + entry.captured(1));
+private:
+    static QString caption(QWidget* window, const QString& button) {
+        return TestProgram::control<QAbstractButton>(window, button)->text();
     }
-    needed.sort();
-    held.sort();
-    QCOMPARE(held, needed);
-}
+    static QStringList items(TestProgram& test, QString* checked = nullptr) {
+        QStringList captions;
+        for (const auto* action : test.mainWindow()->findChildren<QAction*>())
+            if (action->objectName().startsWith(u"mnuLanguage("_s)) {
+                captions.append(action->text());
+                if (checked != nullptr && action->isChecked()) *checked = action->text();
+            }
+        return captions;
+    }
+
+private Q_SLOTS:
+    void flagSwitchesAllTextsAndIsRemembered() {
+        TestProgram test;
+        test.start();
+        QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Uscita"_s);
+        TestProgram::click(test.mainWindow(), u"ImgLingua(0)"_s);
+        QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
+        QCOMPARE(TestProgram::control<QGroupBox>(test.mainWindow(), u"Frame2"_s)->title(), u"LANGUAGE"_s);
+        QCOMPARE(TestProgram::control(test.mainWindow(), u"txtRwy(38)"_s)->accessibleName(), u"ICAO CODE"_s);
+        QCOMPARE(test.read(u"LangSetting.ini"_s), "[Language]\r\nCurrentLanguage=English\r\n");
+        test.start(); // again
+        QString checked;
+        items(test, &checked);
+        QCOMPARE(checked, u"English"_s);
+        QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
+    }
+
+    void startLanguage_data() {
+        QTest::addColumn<QByteArray>("setting"); // empty: no setting file
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("checked");
+        const QStringList both{u"English"_s, u"Italiano"_s};
+        QTest::newRow("no setting file: Italiano") << QByteArray() << both << u"Italiano"_s << u"Italiano"_s;
+        QTest::newRow("neither: the first listed")
+            << QByteArray() << QStringList{u"English"_s} << u"English"_s << u"English"_s;
+        QTest::newRow("a setting that names no listed language")
+            << QByteArray("Klingon") << both << u"Klingon"_s << QString();
+    }
+
+    void startLanguage() {
+        QFETCH(QByteArray, setting);
+        QFETCH(QStringList, files);
+        QFETCH(QString, language);
+        TestProgram test;
+        QFile::remove(test.path(u"LangSetting.ini"_s));
+        if (!setting.isEmpty())
+            test.write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=" + setting + "\r\n");
+        if (!files.contains(u"Italiano"_s)) QFile::remove(test.path(u"Italiano.lng"_s));
+        test.start();
+        QString checked;
+        QCOMPARE(items(test, &checked), files);
+        QTEST(checked, "checked");
+        QCOMPARE(test.program().state().MLSCurrentLanguage, language);
+        QCOMPARE(QFile::exists(test.path(u"LangSetting.ini"_s)), !setting.isEmpty()); // nothing written
+        QWidget* flag = TestProgram::control(test.mainWindow(), u"ImgLingua(1)"_s);
+        QCOMPARE(flag->isEnabled(), files.size() > 1);
+    }
+
+    void withoutLanguageFilesTheDesignedTextsStay() {
+        TestProgram test;
+        QFile::remove(test.path(u"English.lng"_s));
+        QFile::remove(test.path(u"Italiano.lng"_s));
+        test.start();
+        QCOMPARE(test.boxes.shown.size(), 1);
+        QCOMPARE(test.boxes.shown.first().text, u"Non è presente alcun file di linguaggio!"_s);
+        QCOMPARE(caption(test.mainWindow(), u"cmdElabora"_s), u"&CREA"_s);
+        QCOMPARE(test.program().state().MLSCurrentLanguage, QString());
+        // The program's own messages have their Italian texts built in.
+        TestProgram::control(test.mainWindow(), u"cmdElabora"_s)->setEnabled(true);
+        TestProgram::click(test.mainWindow(), u"cmdElabora"_s);
+        QVERIFY(test.boxes.shown.last().text.contains(u"Il nome scelto"_s));
+    }
+
+    void noTwoButtonsOnShowShareAMnemonic() {
+        const auto mnemonics = [](const QWidget* window) {
+            QStringList keys;
+            for (const auto* button : window->findChildren<QAbstractButton*>())
+                if (button->isVisible() && button->isEnabled() && !button->shortcut().isEmpty())
+                    keys.append(button->shortcut().toString());
+            return keys;
+        };
+        for (const int language : {0, 1}) {
+            TestProgram test;
+            test.startWith(u"LIRF"_s);
+            test.program().mainWindow().SelectLanguage(language);
+            TestProgram::click(test.mainWindow(), u"cmdInfo"_s);
+            QStringList keys = mnemonics(test.mainWindow());
+            QCOMPARE(keys.removeDuplicates(), 0);
+            TestProgram::click(test.mainWindow(), u"cmdGrafica"_s);
+            TestProgram::click(test.viewWindow(), u"Option1(0)"_s);
+            keys = mnemonics(test.viewWindow());
+            QVERIFY(!keys.isEmpty());
+            QCOMPARE(keys.removeDuplicates(), 0);
+        }
+    }
+
+    void shippedFilesHoldEveryKeyAndNoOther() {
+        TestProgram test;
+        const QByteArrayList shipped = {test.read(u"Italiano.lng"_s), test.read(u"English.lng"_s)};
+        QFile::remove(test.path(u"Italiano.lng"_s)); // the windows are asked for their designed texts
+        test.addAirport(u"LIRF"_s);
+        test.start();
+        QStringList needed;
+        for (const QString& key : keysOf(test.program().mainWindow())) needed.append(u"frmMain/"_s + key);
+        test.openViewer(u"LIRF"_s);
+        for (const QString& key : keysOf(test.program().viewWindow())) needed.append(u"frmView/"_s + key);
+        for (const QString& number : messageNumbers()) needed.append(u"Strings/"_s + number);
+
+        needed.sort();
+        static const QRegularExpression form(u"^([^=\\s]+)=\"(.+)\"$"_s);
+        for (const QByteArray& content : shipped) {
+            QStringList held;
+            QString section;
+            for (const QString& line : QString::fromLatin1(content).split(u"\r\n"_s, Qt::SkipEmptyParts)) {
+                const QRegularExpressionMatch entry = form.match(line);
+                if (line.startsWith(u'['))
+                    section = line.mid(1, line.size() - 2);
+                else
+                    held.append(section + u'/' + entry.captured(1));
+                QVERIFY2(line.startsWith(u'[') || entry.hasMatch(), qPrintable(line));
+                QVERIFY2(entry.captured(2).size() <= 511, qPrintable(line));
+            }
+            held.sort();
+            QCOMPARE(held, needed);
+        }
+    }
+};
 
 QTEST_MAIN(LanguageChoiceTest)
 #include "tst_language_choice.moc"

@@ -79,9 +79,19 @@ QStringList TestProgram::rows(QWidget* window, const QString& list) {
     return texts;
 }
 
-void TestProgram::openViewer(const QString& airport) {
+void TestProgram::openAirport(const QString& airport) const {
     type(airport);
     clickRow(mainWindow(), u"lstWords"_s, 0);
+}
+
+void TestProgram::startWith(const QString& airport) {
+    addAirport(airport);
+    start();
+    openAirport(airport);
+}
+
+void TestProgram::openViewer(const QString& airport) {
+    openAirport(airport);
     click(mainWindow(), u"cmdGrafica"_s);
     if (!QTest::qWaitForWindowActive(viewWindow())) qFatal("the viewer does not become active");
 }

@@ -50,6 +50,10 @@ public:
     static void clickRow(QWidget* window, const QString& list, int row);
     static void click(QWidget* window, const QString& control);
     static QStringList rows(QWidget* window, const QString& list);
+    /// Types an airport's name and chooses the first row of the list.
+    void openAirport(const QString& airport) const;
+    /// The program with one airport, started and showing it.
+    void startWith(const QString& airport);
     /// Opens an airport from the list and goes to the viewer.
     void openViewer(const QString& airport);
 

@@ -17,25 +17,6 @@ using namespace Qt::StringLiterals;
 class ViewWindowTest : public QObject {
     Q_OBJECT
 
-private Q_SLOTS:
-    void opensInItsDesignState();
-    void familiesFillListCountAndFrames_data();
-    void familiesFillListCountAndFrames();
-    void aMissingFamilyFolderIsToldAndChangesNothing();
-    void choosingAChartShowsItAndItsNotes();
-    void notesAreSavedAsTheyAreRead();
-    void savingNeedsAChartOfTheListOnShow();
-    void aNoteThatCannotBeStoredChangesNoFile();
-    void zoomAndScrollMoveTheChart();
-    void draggingAThumbMovesTheChart_data();
-    void draggingAThumbMovesTheChart();
-    void everySelectedRowIsTheChosenChart();
-    void damagedChartsLeaveThePreviousOne_data();
-    void damagedChartsLeaveThePreviousOne();
-    void reopeningStartsAfreshButKeepsTheFields();
-    void closeBoxIsRefused();
-    void activationClearsTheFamilyOnly();
-
 private:
     static QString notes(const TestProgram& test, const QString& box) {
         return TestProgram::control<QPlainTextEdit>(test.viewWindow(), box)->toPlainText();
@@ -63,261 +44,186 @@ private:
         TestProgram::click(test.viewWindow(), option);
         TestProgram::clickRow(test.viewWindow(), u"List1"_s, row);
     }
+
+private Q_SLOTS:
+    void familiesFillListCountAndFrames() {
+        const auto test = viewer();
+        QWidget* window = test->viewWindow();
+        QCOMPARE(window->size(), QSize(752, 592));
+        QVERIFY(!TestProgram::control(window, u"frame6"_s)->isEnabled());
+        const auto shown = [&](const QString& option) {
+            TestProgram::click(window, option);
+            const QString count = TestProgram::control<QLabel>(window, u"lblTotProc"_s)->text();
+            return TestProgram::rows(window, u"List1"_s) +
+                   QStringList{count, title(*test, u"Frame1"_s), title(*test, u"Frame3"_s)};
+        };
+        QCOMPARE(shown(u"Option1(0)"_s),
+                 QStringList({u"AB"_s, u"KENN1"_s, u"ZETA"_s, u"PARTENZE IN ARCHIVIO: 3"_s, u"ROTTA"_s,
+                              u"ISTRUZIONI DI DECOLLO"_s}));
+        QCOMPARE(shown(u"Option1(1)"_s), QStringList({u"ARRIVO"_s, u"ARRIVI IN ARCHIVIO: 1"_s,
+                                                      u"GLI ARRIVI NON HANNO NOTE"_s, QString()}));
+        QCOMPARE(shown(u"Option1(2)"_s), QStringList({u"ILS16"_s, u"AVVICINAMENTI IN ARCHIVIO: 1"_s,
+                                                      u"MANCATO AVVICINAMENTO"_s, QString()}));
+        QVERIFY(TestProgram::control(window, u"frame6"_s)->isEnabled());
+        QVERIFY(!TestProgram::control(window, u"Command4"_s)->isEnabled());
+    }
+
+    void aMissingFamilyFolderIsToldAndChangesNothing() {
+        const auto test = viewer();
+        TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
+        QDir(test->path(u"aeroporti/LIRF/Star"_s)).removeRecursively();
+        TestProgram::click(test->viewWindow(), u"Option1(1)"_s);
+        QCOMPARE(test->boxes.shown.size(), 1);
+        QVERIFY(test->boxes.shown.first().text.contains(u"/Star"_s));
+        QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s).size(), 3);
+        QVERIFY(test->program().viewWindow().FamilyMode == Family::Sid);
+    }
+
+    void choosingAChartShowsItAndItsNotes() {
+        const auto test = viewer();
+        choose(*test, u"Option1(0)"_s, 1);
+        QWidget* chart = TestProgram::control(test->viewWindow(), u"Image1"_s);
+        QCOMPARE(chart->geometry(), QRect(-1, -1, 800, 1100));
+        auto* across = TestProgram::control<QScrollBar>(test->viewWindow(), u"HScroll1"_s);
+        auto* down = TestProgram::control<QScrollBar>(test->viewWindow(), u"VScroll1"_s);
+        QCOMPARE(std::make_pair(across->minimum(), across->maximum()), std::make_pair(1, 794));
+        QCOMPARE(std::make_pair(down->minimum(), down->maximum()), std::make_pair(1, 1085));
+        QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
+        QCOMPARE(notes(*test, u"Text3"_s), QString());
+        QVERIFY(!TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text1"_s)->isReadOnly());
+        QVERIFY(TestProgram::control(test->viewWindow(), u"Command4"_s)->isEnabled());
+
+        choose(*test, u"Option1(2)"_s, 0);
+        QCOMPARE(notes(*test, u"Text2"_s), u"SALITA 3000"_s);
+        choose(*test, u"Option1(1)"_s, 0);
+        QCOMPARE(notes(*test, u"Text2"_s), QString());
+    }
+
+    void notesAreSavedAsTheyAreRead() {
+        const auto test = viewer();
+        choose(*test, u"Option1(0)"_s, 2);
+        auto* route = TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text2"_s);
+        QTest::keyClicks(route, u"via "_s);
+        QCOMPARE(route->toPlainText(), u"VIA "_s);
+        route->insertPlainText(u"città \"x\""_s); // pasted
+        auto* departure = TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text1"_s);
+        departure->insertPlainText(u"prima\nseconda"_s);
+        test->boxes.answers = {Answer::Cancel};
+        TestProgram::click(test->viewWindow(), u"cmdSave"_s);
+        QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Sid/ROTTA_ZETA.txt"_s)));
+
+        TestProgram::click(test->viewWindow(), u"cmdSave"_s);
+        QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ROTTA_ZETA.txt"_s), "\"VIA CITT\xC0 \x94X\x94\"\r\n");
+        QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ALTITUDINE_ZETA.txt"_s), "\"\"\r\n");
+        QCOMPARE(test->read(u"aeroporti/LIRF/Sid/DECOLLO_ZETA.txt"_s), "\"prima\r\nseconda\"\r\n");
+        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 1);
+        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 2);
+        QCOMPARE(notes(*test, u"Text1"_s), u"prima\nseconda"_s);
+    }
+
+    void savingNeedsAChartOfTheListOnShow() {
+        const auto test = viewer();
+        choose(*test, u"Option1(0)"_s, 1);
+        TestProgram::click(test->viewWindow(), u"Option1(2)"_s);
+        TestProgram::click(test->viewWindow(), u"cmdSave"_s);
+        QVERIFY(test->boxes.shown.last().text.contains(u"Scegli prima una cartina"_s));
+        QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Approach/MISSED_KENN1.txt"_s)));
+    }
+
+    void aNoteThatCannotBeStoredChangesNoFile() {
+        const auto test = viewer();
+        choose(*test, u"Option1(0)"_s, 1);
+        TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text1"_s)
+            ->insertPlainText(u"\u2192 OST"_s);
+        TestProgram::click(test->viewWindow(), u"cmdSave"_s);
+        QVERIFY(test->boxes.shown.last().text.contains(u"«\u2192»"_s));
+        QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ROTTA_KENN1.txt"_s), "\"VIA OST\r\nDRITTO\"\r\n");
+        QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Sid/ALTITUDINE_KENN1.txt"_s)));
+        QCOMPARE(notes(*test, u"Text1"_s), u"\u2192 OST"_s);
+    }
+
+    void zoomAndScrollMoveTheChart() {
+        const auto test = viewer();
+        choose(*test, u"Option1(0)"_s, 1);
+        QWidget* chart = TestProgram::control(test->viewWindow(), u"Image1"_s);
+        auto* across = TestProgram::control<QScrollBar>(test->viewWindow(), u"HScroll1"_s);
+        across->setValue(300);
+        QCOMPARE(chart->x(), -300);
+        QTest::mouseClick(chart, Qt::LeftButton, {},
+                          QPoint(600, 300)); // 600 / 15 / 4 = 10 further, 300 / 60 = 5
+        QCOMPARE(chart->geometry(), QRect(-310, -6, 1000, 1375));
+        QTest::mouseClick(chart, Qt::RightButton, {}, QPoint(600, 300));
+        QCOMPARE(chart->geometry(), QRect(-300, -1, 750, 1031));
+        for (int step = 0; step < 10; ++step) TestProgram::click(test->viewWindow(), u"Command1"_s);
+        QCOMPARE(test->beeper.beeps, 0);
+        TestProgram::click(test->viewWindow(), u"Command1"_s);
+        QCOMPARE(test->beeper.beeps, 1);
+    }
+
+    void draggingAThumbMovesTheChart() {
+        const auto test = viewer();
+        choose(*test, u"Option1(0)"_s, 1);
+        for (const bool across : {true, false}) {
+            auto* scroll =
+                TestProgram::control<QScrollBar>(test->viewWindow(), across ? u"HScroll1"_s : u"VScroll1"_s);
+            const QPoint further = across ? QPoint(120, 8) : QPoint(8, 120);
+            QTest::mousePress(scroll, Qt::LeftButton, {}, across ? QPoint(24, 8) : QPoint(8, 24));
+            QTest::mouseMove(scroll, further);
+            const QPoint place = TestProgram::control(test->viewWindow(), u"Image1"_s)->pos();
+            QVERIFY(across ? place.x() < -50 : place.y() < -50);
+            QTest::mouseRelease(scroll, Qt::LeftButton, {}, further);
+            QCOMPARE(across ? -place.x() : -place.y(), scroll->value());
+        }
+    }
+
+    void everySelectedRowIsTheChosenChart() {
+        const auto test = viewer();
+        choose(*test, u"Option1(0)"_s, 1);
+        auto* list = TestProgram::control<QListView>(test->viewWindow(), u"List1"_s);
+        const QPoint other = list->visualRect(list->model()->index(2, 0)).center();
+        QTest::mouseClick(list->viewport(), Qt::RightButton, {}, other);
+        QCOMPARE(list->currentIndex().row(), 1);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, other);
+        QCOMPARE(test->program().viewWindow().ChartName, u"ZETA"_s);
+        // Arrow keys only look around: leaving the list shows the chosen chart again.
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_Up);
+        TestProgram::control(test->viewWindow(), u"Text2"_s)->setFocus();
+        QCOMPARE(list->currentIndex().row(), 2);
+    }
+
+    void damagedChartsLeaveThePreviousOne() {
+        const auto test = viewer();
+        choose(*test, u"Option1(0)"_s, 1);
+        test->write(u"aeroporti/LIRF/Sid/zeta.gif"_s, "this is no chart");
+        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 2);
+        QFile::remove(test->path(u"aeroporti/LIRF/Sid/zeta.gif"_s));
+        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 2);
+        QCOMPARE(test->boxes.shown.size(), 2);
+        QVERIFY(test->boxes.shown.first().text.contains(u"danneggiato"_s));
+        QVERIFY(test->boxes.shown.last().text.contains(u"non esiste"_s));
+        QCOMPARE(test->program().viewWindow().ChartName, u"KENN1"_s);
+        QCOMPARE(TestProgram::control(test->viewWindow(), u"Image1"_s)->width(), 800);
+        QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
+    }
+
+    void activationClearsTheFamilyOnly() {
+        const auto test = viewer();
+        choose(*test, u"Option1(0)"_s, 1);
+        test->program().state().CurrentAirport = u"  LIRF "_s;
+        QEvent comeBack(QEvent::WindowActivate);
+        QCoreApplication::sendEvent(test->viewWindow(), &comeBack);
+        QVERIFY(!TestProgram::control<QAbstractButton>(test->viewWindow(), u"Option1(0)"_s)->isChecked());
+        QVERIFY(test->viewWindow()->windowTitle().startsWith(u"Quarvel - CARTINE DI LIRF  "_s));
+        QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s).size(), 3);
+        QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
+        // The same family is a new choice now, and reads the folder afresh.
+        test->program().state().CurrentAirport = u"LIRF"_s;
+        test->addChart(u"aeroporti/LIRF/Sid/nuova.gif"_s, {20, 20});
+        TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
+        QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s).size(), 4);
+    }
 };
-
-void ViewWindowTest::opensInItsDesignState() {
-    const auto test = viewer();
-    QWidget* window = test->viewWindow();
-    QCOMPARE(window->size(), QSize(752, 592));
-    QCOMPARE(TestProgram::control(window, u"Picture1"_s)->geometry(), QRect(360, -16, 397, 611));
-    QCOMPARE(TestProgram::control(window, u"Image1"_s)->geometry(), QRect(8, 0, 84, 94));
-    QCOMPARE(window->windowTitle(),
-             u"Quarvel - CARTINE DI LIRF           TASTO SX ZOOM IN - TASTO DX ZOOM OUT"_s);
-    QVERIFY(!TestProgram::control(window, u"frame6"_s)->isEnabled());
-    QVERIFY(!TestProgram::control(window, u"File1"_s)->isVisible());
-    for (const auto& box : {u"Text1"_s, u"Text2"_s, u"Text3"_s})
-        QVERIFY(TestProgram::control<QPlainTextEdit>(window, box)->isReadOnly());
-    QTest::mouseClick(TestProgram::control(window, u"Image1"_s), Qt::LeftButton);
-    QCOMPARE(TestProgram::control(window, u"Image1"_s)->width(), 84); // no chart: clicks do nothing
-}
-
-void ViewWindowTest::familiesFillListCountAndFrames_data() {
-    QTest::addColumn<QString>("option");
-    QTest::addColumn<QStringList>("charts");
-    QTest::addColumn<QString>("count");
-    QTest::addColumn<QStringList>("frames"); // Frame1, Frame3, Frame4
-    QTest::newRow("departures") << u"Option1(0)"_s << QStringList{u"AB"_s, u"KENN1"_s, u"ZETA"_s}
-                                << u"PARTENZE IN ARCHIVIO: 3"_s
-                                << QStringList{u"ROTTA"_s, u"ISTRUZIONI DI DECOLLO"_s, u"ALTITUDINI"_s};
-    QTest::newRow("arrivals") << u"Option1(1)"_s << QStringList{u"ARRIVO"_s} << u"ARRIVI IN ARCHIVIO: 1"_s
-                              << QStringList{u"GLI ARRIVI NON HANNO NOTE"_s, QString(), QString()};
-    QTest::newRow("approaches") << u"Option1(2)"_s << QStringList{u"ILS16"_s}
-                                << u"AVVICINAMENTI IN ARCHIVIO: 1"_s
-                                << QStringList{u"MANCATO AVVICINAMENTO"_s, QString(), QString()};
-}
-
-void ViewWindowTest::familiesFillListCountAndFrames() {
-    QFETCH(QString, option);
-    QFETCH(QStringList, charts);
-    QFETCH(QString, count);
-    QFETCH(QStringList, frames);
-    const auto test = viewer();
-    TestProgram::click(test->viewWindow(), option);
-    QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s), charts);
-    QCOMPARE(TestProgram::control<QLabel>(test->viewWindow(), u"lblTotProc"_s)->text(), count);
-    QCOMPARE(QStringList({title(*test, u"Frame1"_s), title(*test, u"Frame3"_s), title(*test, u"Frame4"_s)}),
-             frames);
-    QVERIFY(TestProgram::control(test->viewWindow(), u"frame6"_s)->isEnabled());
-    QVERIFY(!TestProgram::control(test->viewWindow(), u"Command4"_s)->isEnabled());
-    QVERIFY(test->program().state().FamilyFolder.endsWith(u'/'));
-}
-
-void ViewWindowTest::aMissingFamilyFolderIsToldAndChangesNothing() {
-    const auto test = viewer();
-    TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
-    QFile::remove(test->path(u"aeroporti/LIRF/Star/arrivo.gif"_s));
-    QDir(test->path(u"aeroporti/LIRF"_s)).rmdir(u"Star"_s);
-    TestProgram::click(test->viewWindow(), u"Option1(1)"_s);
-    QCOMPARE(test->boxes.shown.size(), 1);
-    QVERIFY(test->boxes.shown.first().text.contains(u"/Star"_s));
-    QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s).size(), 3);
-    QCOMPARE(title(*test, u"Frame1"_s), u"ROTTA"_s);
-    QVERIFY(test->program().viewWindow().FamilyMode == Family::Sid);
-}
-
-void ViewWindowTest::choosingAChartShowsItAndItsNotes() {
-    const auto test = viewer();
-    choose(*test, u"Option1(0)"_s, 1);
-    QWidget* chart = TestProgram::control(test->viewWindow(), u"Image1"_s);
-    QCOMPARE(chart->geometry(), QRect(-1, -1, 800, 1100));
-    auto* across = TestProgram::control<QScrollBar>(test->viewWindow(), u"HScroll1"_s);
-    auto* down = TestProgram::control<QScrollBar>(test->viewWindow(), u"VScroll1"_s);
-    QCOMPARE(std::make_pair(across->minimum(), across->maximum()), std::make_pair(1, 794));
-    QCOMPARE(std::make_pair(down->minimum(), down->maximum()), std::make_pair(1, 1085));
-    QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
-    QCOMPARE(notes(*test, u"Text3"_s), QString());
-    QVERIFY(!TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text1"_s)->isReadOnly());
-    QVERIFY(TestProgram::control(test->viewWindow(), u"Command4"_s)->isEnabled());
-    QCOMPARE(test->program().state().ChartFile, u"KENN1.gif"_s);
-
-    choose(*test, u"Option1(2)"_s, 0);
-    QCOMPARE(notes(*test, u"Text2"_s), u"SALITA 3000"_s);
-    choose(*test, u"Option1(1)"_s, 0);
-    QCOMPARE(notes(*test, u"Text2"_s), QString());
-    QVERIFY(!TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text2"_s)
-                 ->isReadOnly()); // stays editable
-}
-
-void ViewWindowTest::notesAreSavedAsTheyAreRead() {
-    const auto test = viewer();
-    choose(*test, u"Option1(0)"_s, 2);
-    auto* route = TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text2"_s);
-    QTest::keyClicks(route, u"via "_s);
-    QCOMPARE(route->toPlainText(), u"VIA "_s);
-    route->insertPlainText(u"città \"x\""_s); // pasted
-    auto* departure = TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text1"_s);
-    departure->insertPlainText(u"prima\nseconda"_s);
-    test->boxes.answers = {Answer::Cancel};
-    TestProgram::click(test->viewWindow(), u"cmdSave"_s);
-    QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Sid/ROTTA_ZETA.txt"_s)));
-
-    TestProgram::click(test->viewWindow(), u"cmdSave"_s);
-    QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ROTTA_ZETA.txt"_s), "\"VIA CITT\xC0 \x94X\x94\"\r\n");
-    QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ALTITUDINE_ZETA.txt"_s), "\"\"\r\n");
-    QCOMPARE(test->read(u"aeroporti/LIRF/Sid/DECOLLO_ZETA.txt"_s), "\"prima\r\nseconda\"\r\n");
-    TestProgram::clickRow(test->viewWindow(), u"List1"_s, 1);
-    TestProgram::clickRow(test->viewWindow(), u"List1"_s, 2);
-    QCOMPARE(notes(*test, u"Text1"_s), u"prima\nseconda"_s);
-}
-
-void ViewWindowTest::savingNeedsAChartOfTheListOnShow() {
-    const auto test = viewer();
-    choose(*test, u"Option1(0)"_s, 1);
-    TestProgram::click(test->viewWindow(), u"Option1(2)"_s);
-    TestProgram::click(test->viewWindow(), u"cmdSave"_s);
-    QVERIFY(test->boxes.shown.last().text.contains(u"Scegli prima una cartina"_s));
-    QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Approach/MISSED_KENN1.txt"_s)));
-    // An arrival is asked for and then nothing is written.
-    choose(*test, u"Option1(1)"_s, 0);
-    TestProgram::click(test->viewWindow(), u"cmdSave"_s);
-    QCOMPARE(test->boxes.shown.last().buttons, Buttons::OkCancel);
-    QCOMPARE(QDir(test->path(u"aeroporti/LIRF/Star"_s)).entryList(QDir::Files), QStringList(u"arrivo.gif"_s));
-}
-
-void ViewWindowTest::aNoteThatCannotBeStoredChangesNoFile() {
-    const auto test = viewer();
-    choose(*test, u"Option1(0)"_s, 1);
-    TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text1"_s)->insertPlainText(u"\u2192 OST"_s);
-    TestProgram::click(test->viewWindow(), u"cmdSave"_s);
-    QVERIFY(test->boxes.shown.last().text.contains(u"«\u2192»"_s));
-    QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ROTTA_KENN1.txt"_s), "\"VIA OST\r\nDRITTO\"\r\n");
-    QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Sid/ALTITUDINE_KENN1.txt"_s)));
-    QCOMPARE(notes(*test, u"Text1"_s), u"\u2192 OST"_s);
-}
-
-void ViewWindowTest::zoomAndScrollMoveTheChart() {
-    const auto test = viewer();
-    choose(*test, u"Option1(0)"_s, 1);
-    QWidget* chart = TestProgram::control(test->viewWindow(), u"Image1"_s);
-    auto* across = TestProgram::control<QScrollBar>(test->viewWindow(), u"HScroll1"_s);
-    across->setValue(300);
-    QCOMPARE(chart->x(), -300);
-    QTest::mouseClick(chart, Qt::LeftButton, {}, QPoint(600, 300)); // 600 / 15 / 4 = 10 further, 300 / 60 = 5
-    QCOMPARE(chart->geometry(), QRect(-310, -6, 1000, 1375));
-    QTest::mouseClick(chart, Qt::RightButton, {}, QPoint(600, 300));
-    QCOMPARE(chart->geometry(), QRect(-300, -1, 750, 1031));
-    QTest::mouseClick(chart, Qt::MiddleButton, {}, QPoint(600, 300));
-    QCOMPARE(chart->width(), 750);
-    for (int step = 0; step < 10; ++step) TestProgram::click(test->viewWindow(), u"Command1"_s);
-    QCOMPARE(test->beeper.beeps, 0);
-    const int largest = chart->width();
-    TestProgram::click(test->viewWindow(), u"Command1"_s);
-    QCOMPARE(test->beeper.beeps, 1);
-    QCOMPARE(chart->width(), largest);
-}
-
-void ViewWindowTest::draggingAThumbMovesTheChart_data() {
-    QTest::addColumn<QString>("bar");
-    QTest::newRow("across") << u"HScroll1"_s;
-    QTest::newRow("down") << u"VScroll1"_s;
-}
-
-void ViewWindowTest::draggingAThumbMovesTheChart() {
-    QFETCH(QString, bar);
-    const auto test = viewer();
-    choose(*test, u"Option1(0)"_s, 1);
-    auto* scroll = TestProgram::control<QScrollBar>(test->viewWindow(), bar);
-    const bool across = bar == u"HScroll1"_s;
-    const QPoint thumb = across ? QPoint(24, 8) : QPoint(8, 24);
-    const QPoint further = across ? QPoint(120, 8) : QPoint(8, 120);
-    QTest::mousePress(scroll, Qt::LeftButton, {}, thumb);
-    QTest::mouseMove(scroll, further);
-    const QPoint place = TestProgram::control(test->viewWindow(), u"Image1"_s)->pos();
-    QVERIFY(across ? place.x() < -50 : place.y() < -50);
-    QTest::mouseRelease(scroll, Qt::LeftButton, {}, further);
-    QCOMPARE(across ? -place.x() : -place.y(), scroll->value());
-}
-
-void ViewWindowTest::everySelectedRowIsTheChosenChart() {
-    const auto test = viewer();
-    choose(*test, u"Option1(0)"_s, 1);
-    auto* list = TestProgram::control<QListView>(test->viewWindow(), u"List1"_s);
-    const QPoint other = list->visualRect(list->model()->index(2, 0)).center();
-    QTest::mouseClick(list->viewport(), Qt::RightButton, {}, other);
-    QCOMPARE(list->currentIndex().row(), 1);
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, other);
-    QCOMPARE(test->program().viewWindow().ChartName, u"ZETA"_s);
-    // Arrow keys only look around: leaving the list shows the chosen chart again.
-    list->setFocus();
-    QTest::keyClick(list, Qt::Key_Up);
-    TestProgram::control(test->viewWindow(), u"Text2"_s)->setFocus();
-    QCOMPARE(list->currentIndex().row(), 2);
-}
-
-void ViewWindowTest::damagedChartsLeaveThePreviousOne_data() {
-    QTest::addColumn<QByteArray>("content"); // empty: the file is removed
-    QTest::addColumn<QString>("told");
-    QTest::newRow("removed since it was listed") << QByteArray() << u"non esiste"_s;
-    QTest::newRow("not a picture") << QByteArray("this is no chart") << u"danneggiato"_s;
-}
-
-void ViewWindowTest::damagedChartsLeaveThePreviousOne() {
-    QFETCH(QByteArray, content);
-    QFETCH(QString, told);
-    const auto test = viewer();
-    choose(*test, u"Option1(0)"_s, 1);
-    QFile::remove(test->path(u"aeroporti/LIRF/Sid/zeta.gif"_s));
-    if (!content.isEmpty()) test->write(u"aeroporti/LIRF/Sid/zeta.gif"_s, content);
-    TestProgram::clickRow(test->viewWindow(), u"List1"_s, 2);
-    QCOMPARE(test->boxes.shown.size(), 1);
-    QVERIFY2(test->boxes.shown.first().text.contains(told), qPrintable(test->boxes.shown.first().text));
-    QCOMPARE(test->program().viewWindow().ChartName, u"KENN1"_s);
-    QCOMPARE(TestProgram::control(test->viewWindow(), u"Image1"_s)->width(), 800);
-    QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
-}
-
-void ViewWindowTest::reopeningStartsAfreshButKeepsTheFields() {
-    const auto test = viewer();
-    choose(*test, u"Option1(0)"_s, 1);
-    TestProgram::click(test->viewWindow(), u"Command3"_s);
-    test->openViewer(u"LIRF"_s);
-    QVERIFY(!TestProgram::control(test->viewWindow(), u"frame6"_s)->isEnabled());
-    QVERIFY(TestProgram::rows(test->viewWindow(), u"List1"_s).isEmpty());
-    QCOMPARE(notes(*test, u"Text2"_s), QString());
-    QCOMPARE(test->program().viewWindow().ChartName, u"KENN1"_s);
-    // The name that is still kept must not lead to a save.
-    TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
-    TestProgram::click(test->viewWindow(), u"cmdSave"_s);
-    QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ROTTA_KENN1.txt"_s), "\"VIA OST\r\nDRITTO\"\r\n");
-}
-
-void ViewWindowTest::closeBoxIsRefused() {
-    const auto test = viewer();
-    // What a window manager's close box sends: a close from outside.
-    QCloseEvent fromOutside;
-    QSpontaneKeyEvent::setSpontaneous(&fromOutside);
-    qApp->notify(test->viewWindow(), &fromOutside);
-    QVERIFY(test->viewWindow() != nullptr && test->viewWindow()->isVisible());
-    test->viewWindow()->close();
-    QVERIFY(test->viewWindow() == nullptr);
-}
-
-void ViewWindowTest::activationClearsTheFamilyOnly() {
-    const auto test = viewer();
-    choose(*test, u"Option1(0)"_s, 1);
-    test->program().state().CurrentAirport = u"  LIRF "_s;
-    QEvent comeBack(QEvent::WindowActivate);
-    QCoreApplication::sendEvent(test->viewWindow(), &comeBack);
-    QVERIFY(!TestProgram::control<QAbstractButton>(test->viewWindow(), u"Option1(0)"_s)->isChecked());
-    QVERIFY(test->viewWindow()->windowTitle().startsWith(u"Quarvel - CARTINE DI LIRF  "_s));
-    QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s).size(), 3);
-    QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
-    // The same family is a new choice now, and reads the folder afresh.
-    test->program().state().CurrentAirport = u"LIRF"_s;
-    test->addChart(u"aeroporti/LIRF/Sid/nuova.gif"_s, {20, 20});
-    TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
-    QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s).size(), 4);
-}
 
 QTEST_MAIN(ViewWindowTest)
 #include "tst_view_window.moc"

@@ -1,7 +1,6 @@
 #include "viewer/viewport/viewport.h"
 
 #include <QTest>
-#include <cmath>
 #include <functional>
 #include <limits>
 #include <vector>
@@ -74,165 +73,111 @@ class ViewportTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void stands_data();
-    void stands();
-    void clickMovesValue_data();
-    void clickMovesValue();
-    void zoomInStopsAtTen();
-    void zoomOutStopsAtTenPixels();
-    void sizesAreSinglePrecision();
-    void fitsSixteenBitRanges();
-    void valuesOutsideAreRefused();
-};
+    void stands_data() {
+        QTest::addColumn<FrameMeasures>("frame");
+        QTest::addColumn<Steps>("steps");
+        QTest::addColumn<QString>("expected");
 
-void ViewportTest::stands_data() {
-    QTest::addColumn<FrameMeasures>("frame");
-    QTest::addColumn<Steps>("steps");
-    QTest::addColumn<QString>("expected");
+        // 800 - 6.4876 = 793.5124, 1100 - 15.4814 = 1084.5186
+        row("load", viewer, {load({800, 1100})}, u"800x1100 at -1,-1 | 1..794@1 | 1..1085@1 | zoom 0"_s);
+        row("as wide as the frame is not wider", companion, {load({377, 100})},
+            u"377x100 at -1,-1 | off 0..32767@1 | off 0..32767@1 | zoom 0"_s);
+        // Zoomed out to 375 x 450 the chart stands at Left 0 with the value 1; 500 - 377, 600 - 433.
+        row("load at values of 1 leaves the place", companion,
+            {load({500, 600}), out(0, 0), load({500, 600})},
+            u"500x600 at 0,-1 | 1..123@1 | 1..167@1 | zoom 0"_s);
+        // 84 * 1.25 - 6.4876 = 98.5124, 94 * 1.25 - 15.4814 = 102.0186; the new minimum pulls the values of
+        // 0.
+        row("empty image zooms", viewer, {in(0, 0)}, u"105x117.5 at -1,-1 | 1..99@1 | 1..102@1 | zoom 1"_s);
+        // In: 1000 x 1375. Out: 750 x 1031.25. Out: 562.5 x 773.4375, 562.5 - 6.4876 = 556.0124, 757.9561.
+        row("buttons keep the corner until the range ends", viewer,
+            {load({800, 1100}), values(700, 20), in(600, 600, ZoomBy::Button), out(0, 0), out(0, 0)},
+            u"562.5x773.4375 at -556,-20 | 1..556@556 | 1..758@20 | zoom -1"_s);
+        row("narrower than the frame stands at Left 0", companion, {load({300, 400}), in(60, 240)},
+            u"375x500 at 0,-5 | off 0..32767@1 | 1..67@5 | zoom 1"_s);
+        // 375 x 500, then 468.75 x 625: 91.75, 192; 1 + 60 / 60. Then 351.5625 x 468.75: 35.75.
+        row("narrower again keeps range and value", companion,
+            {load({300, 400}), in(60, 240), in(60, 0), out(0, 0)},
+            u"351.5625x468.75 at 0,-5 | off 1..92@2 | 1..36@5 | zoom 1"_s);
+        row("mouse zoom in of a small chart disables them", companion,
+            {load({500, 600}), place(-9, -9, 100, 100), in(0, 0)},
+            u"125x125 at 0,0 | off 1..123@1 | off 1..167@1 | zoom 1"_s);
+        // 7.875 - 6.4876 = 1.3874; lower than 15.4814
+        row("just above ten pixels zooms out", viewer,
+            {load({800, 1100}), place(-1, -1, 10.5F, 10.5F), out(0, 0)},
+            u"7.875x7.875 at -1,0 | 1..1@1 | off 1..1085@1 | zoom -1"_s);
+        // 7 - 6.75 rounds to 0, below the minimum 1: of the two, 1 is nearer to 50.
+        row("value between crossed bounds", {6.75F, 400},
+            {load({500, 600}), values(50, 1), place(-50, -1, 7, 600), recompute},
+            u"7x600 at -1,-1 | 1..0@1 | 1..200@1 | zoom 0"_s);
+        // Before any chart the minimum is 0: the maximum 0 takes the value along, the minimum 1 leaves it
+        // there.
+        row("range beyond 16 bits across", viewer, {load({30000, 100}), in(600, 600)},
+            u"37500x125 at -11,-11 | 1..29994@11 | 1..85@11 | zoom 1"_s);
+    }
 
-    // 800 - 6.4876 = 793.5124, 1100 - 15.4814 = 1084.5186
-    row("load", viewer, {load({800, 1100})}, u"800x1100 at -1,-1 | 1..794@1 | 1..1085@1 | zoom 0"_s);
-    // 300 - 6.4876 = 293.5124, 200 - 15.4814 = 184.5186
-    row("load another chart", viewer, {load({800, 1100}), values(700, 9), in(0, 0), load({300, 200})},
-        u"300x200 at -1,-1 | 1..294@1 | 1..185@1 | zoom 0"_s);
-    row("as wide as the frame is not wider", companion, {load({377, 100})},
-        u"377x100 at -1,-1 | off 0..32767@1 | off 0..32767@1 | zoom 0"_s);
-    // Zoomed out to 375 x 450 the chart stands at Left 0 with the value 1; 500 - 377, 600 - 433.
-    row("load at values of 1 leaves the place", companion, {load({500, 600}), out(0, 0), load({500, 600})},
-        u"500x600 at 0,-1 | 1..123@1 | 1..167@1 | zoom 0"_s);
-    // 84 * 1.25 - 6.4876 = 98.5124, 94 * 1.25 - 15.4814 = 102.0186; the new minimum pulls the values of 0.
-    row("empty image zooms", viewer, {in(0, 0)}, u"105x117.5 at -1,-1 | 1..99@1 | 1..102@1 | zoom 1"_s);
-    // In: 1000 x 1375. Out: 750 x 1031.25. Out: 562.5 x 773.4375, 562.5 - 6.4876 = 556.0124, 757.9561.
-    row("buttons keep the corner until the range ends", viewer,
-        {load({800, 1100}), values(700, 20), in(600, 600, ZoomBy::Button), out(0, 0), out(0, 0)},
-        u"562.5x773.4375 at -556,-20 | 1..556@556 | 1..758@20 | zoom -1"_s);
-    // 45000 x 825: 790 + 10 passes the maximum 794 from before, and the new range is beyond 16 bits.
-    row("zoom out past the old maximum", viewer,
-        {load({800, 1100}), values(790, 9), place(-790, -9, 60000, 1100), out(-600, 0)},
-        u"45000x825 at -794,-9 | 1..794@794 | 1..1085@9 | zoom -1"_s);
-    // 375 x 500: 500 - 433, 1 + 240 / 15 / 4.
-    row("narrower than the frame stands at Left 0", companion, {load({300, 400}), in(60, 240)},
-        u"375x500 at 0,-5 | off 0..32767@1 | 1..67@5 | zoom 1"_s);
-    // 375 x 500, then 468.75 x 625: 91.75, 192; 1 + 60 / 60. Then 351.5625 x 468.75: 35.75.
-    row("narrower again keeps range and value", companion,
-        {load({300, 400}), in(60, 240), in(60, 0), out(0, 0)},
-        u"351.5625x468.75 at 0,-5 | off 1..92@2 | 1..36@5 | zoom 1"_s);
-    row("button zoom in of a small chart leaves the bars", companion,
-        {load({500, 600}), place(-9, -9, 100, 100), in(0, 0, ZoomBy::Button)},
-        u"125x125 at 0,0 | 1..123@1 | 1..167@1 | zoom 1"_s);
-    row("mouse zoom in of a small chart disables them", companion,
-        {load({500, 600}), place(-9, -9, 100, 100), in(0, 0)},
-        u"125x125 at 0,0 | off 1..123@1 | off 1..167@1 | zoom 1"_s);
-    // 7.875 - 6.4876 = 1.3874; lower than 15.4814
-    row("just above ten pixels zooms out", viewer,
-        {load({800, 1100}), place(-1, -1, 10.5F, 10.5F), out(0, 0)},
-        u"7.875x7.875 at -1,0 | 1..1@1 | off 1..1085@1 | zoom -1"_s);
-    // 7 - 6.75 rounds to 0, below the minimum 1: of the two, 1 is nearer to 50.
-    row("value between crossed bounds", {6.75F, 400},
-        {load({500, 600}), values(50, 1), place(-50, -1, 7, 600), recompute},
-        u"7x600 at -1,-1 | 1..0@1 | 1..200@1 | zoom 0"_s);
-    // Before any chart the minimum is 0: the maximum 0 takes the value along, the minimum 1 leaves it there.
-    row("maximum pulls before the minimum", {6.75F, 400}, {values(50, 0), place(-50, 0, 7, 600), recompute},
-        u"7x600 at 0,-1 | 1..0@0 | 1..200@1 | zoom 0"_s);
-    // 29993.5124, 84.5186; then 37500 x 125: the bar across keeps its range, the other is not reached.
-    row("range beyond 16 bits across", viewer, {load({30000, 100}), in(600, 600)},
-        u"37500x125 at -11,-11 | 1..29994@11 | 1..85@11 | zoom 1"_s);
-    // 125 - 6.4876 = 118.5124 comes first; 30000 - 15.4814 = 29984.5186 stays.
-    row("range beyond 16 bits down", viewer, {load({100, 30000}), in(600, 600)},
-        u"125x37500 at -11,-11 | 1..119@11 | 1..29985@11 | zoom 1"_s);
-    row("placing leaves the bars, equal values the place", viewer,
-        {load({800, 1100}), place(4.5F, 6.25F, 400, 500), values(1, 31)},
-        u"400x500 at 4.5,-31 | 1..794@1 | 1..1085@31 | zoom 0"_s);
-}
+    void stands() {
+        QFETCH(FrameMeasures, frame);
+        QFETCH(Steps, steps);
+        Viewport viewport = empty(frame);
+        for (const Step& step : steps) step(viewport);
+        QTEST(told(viewport), "expected");
+    }
 
-void ViewportTest::stands() {
-    QFETCH(FrameMeasures, frame);
-    QFETCH(Steps, steps);
-    Viewport viewport = empty(frame);
-    for (const Step& step : steps) step(viewport);
-    QTEST(told(viewport), "expected");
-}
+    void clickMovesValue_data() {
+        QTest::addColumn<Step>("click");
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        // A chart of 800 x 1100: the range grows to 994 (1000 - 6.4876) or shrinks to 594 (600 - 6.4876).
+        QTest::newRow("in: a sixtieth of the distance") << in(600, 0) << 1 << 11;
+        QTest::newRow("in: half to the even value below") << in(690, 0) << 1 << 12; // 1 + 11.5
+        QTest::newRow("in: up to the new maximum") << in(12000, 0) << 793 << 993;
+        QTest::newRow("in: below the minimum is skipped") << in(-600, 0) << 5 << 5;
+        QTest::newRow("in: a button has no point") << in(600, 0, ZoomBy::Button) << 5 << 5;
+        QTest::newRow("out: a sixtieth of the distance") << out(600, 0) << 100 << 90;
+        QTest::newRow("out: raised to 1") << out(600, 0) << 5 << 1;
+        QTest::newRow("out: pulled to the new maximum") << out(600, 0) << 700 << 594;
+    }
 
-void ViewportTest::clickMovesValue_data() {
-    QTest::addColumn<Step>("click");
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    // A chart of 800 x 1100: the range grows to 994 (1000 - 6.4876) or shrinks to 594 (600 - 6.4876).
-    QTest::newRow("in: a sixtieth of the distance") << in(600, 0) << 1 << 11;
-    QTest::newRow("in: half to the even value below") << in(690, 0) << 1 << 12; // 1 + 11.5
-    QTest::newRow("in: half to the even value above") << in(750, 0) << 1 << 14; // 1 + 12.5
-    QTest::newRow("in: up to the new maximum") << in(12000, 0) << 793 << 993;
-    QTest::newRow("in: past the new maximum") << in(12120, 0) << 793 << 994; // 995
-    QTest::newRow("in: below the minimum is skipped") << in(-600, 0) << 5 << 5;
-    QTest::newRow("in: a button has no point") << in(600, 0, ZoomBy::Button) << 5 << 5;
-    QTest::newRow("out: a sixtieth of the distance") << out(600, 0) << 100 << 90;
-    QTest::newRow("out: half to even") << out(690, 0) << 24 << 12; // 12.5
-    QTest::newRow("out: raised to 1") << out(600, 0) << 5 << 1;
-    QTest::newRow("out: pulled to the new maximum") << out(600, 0) << 700 << 594;
-    const Step otherScreen = [](Viewport& v) {
-        v.setTwipsPerPixel({12, 20});
-        in(600, 800)(v);
-        QCOMPARE(v.vertical().value, qint16{11}); // 1 + 800 / 20 / 4
-    };
-    QTest::newRow("in: other twips across and down") << otherScreen << 1 << 14; // 1 + 600 / 12 / 4 = 13.5
-}
-
-void ViewportTest::clickMovesValue() {
-    QFETCH(Step, click);
-    QFETCH(int, from);
-    QFETCH(int, to);
-    Viewport viewport = loaded(viewer, {800, 1100});
-    viewport.setHorizontal(from);
-    click(viewport);
-    QCOMPARE(int{viewport.horizontal().value}, to);
-    QCOMPARE(viewport.left(), static_cast<float>(-to));
-}
-
-void ViewportTest::zoomInStopsAtTen() {
-    Viewport viewport = loaded(viewer, {800, 1100});
-    for (int step = 0; step < 10; ++step) in(0, 0)(viewport);
-    const QString before = told(viewport);
-    QCOMPARE(viewport.zoomIn(600, 600, ZoomBy::Mouse), ZoomOutcome::Refused);
-    QCOMPARE(told(viewport), before);
-    out(0, 0)(viewport);
-    in(0, 0)(viewport);
-    QCOMPARE(viewport.zoomIn(0, 0, ZoomBy::Button), ZoomOutcome::Refused);
-}
-
-void ViewportTest::zoomOutStopsAtTenPixels() {
-    for (const QSizeF size : {QSizeF(10, 500), QSizeF(500, 10)}) {
+    void clickMovesValue() {
+        QFETCH(Step, click);
+        QFETCH(int, from);
+        QFETCH(int, to);
         Viewport viewport = loaded(viewer, {800, 1100});
-        viewport.place(-1, -1, static_cast<float>(size.width()), static_cast<float>(size.height()));
+        viewport.setHorizontal(from);
+        click(viewport);
+        QCOMPARE(int{viewport.horizontal().value}, to);
+        QCOMPARE(viewport.left(), static_cast<float>(-to));
+    }
+
+    void zoomInStopsAtTen() {
+        Viewport viewport = loaded(viewer, {800, 1100});
+        for (int step = 0; step < 10; ++step) in(0, 0)(viewport);
         const QString before = told(viewport);
-        QCOMPARE(viewport.zoomOut(600, 600), ZoomOutcome::Refused);
+        QCOMPARE(viewport.zoomIn(600, 600, ZoomBy::Mouse), ZoomOutcome::Refused);
         QCOMPARE(told(viewport), before);
+        out(0, 0)(viewport);
+        in(0, 0)(viewport);
+        QCOMPARE(viewport.zoomIn(0, 0, ZoomBy::Button), ZoomOutcome::Refused);
     }
-}
 
-void ViewportTest::sizesAreSinglePrecision() {
-    // 801 * 1.25^10 = 801 * 5^10 / 2^20 needs 33 bits; a single keeps 24, so the steps round on the way.
-    Viewport viewport = loaded(companion, {801, 1100});
-    for (int step = 0; step < 10; ++step) in(0, 0)(viewport);
-    const double error = std::abs(static_cast<double>(viewport.width()) - 801 * std::pow(1.25, 10));
-    QVERIFY(error > 0 && error < 0.005);
-}
-
-void ViewportTest::fitsSixteenBitRanges() {
-    const Viewport viewport = empty(companion);
-    QVERIFY(viewport.fits({32767 + 377, 32767 + 433}));
-    QVERIFY(!viewport.fits({32767 + 378, 100}));
-    QVERIFY(!viewport.fits({100, 32767 + 434}));
-}
-
-void ViewportTest::valuesOutsideAreRefused() {
-    Viewport viewport = loaded(viewer, {800, 1100});
-    viewport.setHorizontal(794.4);
-    QCOMPARE(viewport.left(), -794.0F);
-    for (const double value : {0.5, 795.0, -1e300, std::numeric_limits<double>::quiet_NaN()}) {
-        viewport.setHorizontal(value);
-        QCOMPARE(viewport.left(), -794.0F);
+    void zoomOutStopsAtTenPixels() {
+        for (const QSizeF size : {QSizeF(10, 500), QSizeF(500, 10)}) {
+            Viewport viewport = loaded(viewer, {800, 1100});
+            viewport.place(-1, -1, static_cast<float>(size.width()), static_cast<float>(size.height()));
+            const QString before = told(viewport);
+            QCOMPARE(viewport.zoomOut(600, 600), ZoomOutcome::Refused);
+            QCOMPARE(told(viewport), before);
+        }
     }
-}
+
+    void fitsSixteenBitRanges() {
+        const Viewport viewport = empty(companion);
+        QVERIFY(viewport.fits({32767 + 377, 32767 + 433}));
+        QVERIFY(!viewport.fits({32767 + 378, 100}));
+        QVERIFY(!viewport.fits({100, 32767 + 434}));
+    }
+};
 
 QTEST_GUILESS_MAIN(ViewportTest)
 #include "tst_viewport.moc"

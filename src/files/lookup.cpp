@@ -39,7 +39,7 @@ QStringList entryNames(const QString& folder) {
     QStringList names;
     const std::unique_ptr<DIR, DirCloser> dir(::opendir(QFile::encodeName(folder).constData()));
     if (!dir) return names;
-    while (const dirent* entry = ::readdir(dir.get())) // NOLINT(concurrency-mt-unsafe): one thread only
+    while (const dirent* entry = ::readdir(dir.get())) // NOLINT(concurrency-mt-unsafe): a stream of its own
         if (std::strcmp(entry->d_name, ".") != 0 && std::strcmp(entry->d_name, "..") != 0)
             names.append(QFile::decodeName(entry->d_name));
     return names;

@@ -85,8 +85,10 @@ Result<void> writeWholeFiles(const std::vector<FileContent>& files) {
         prepared.push_back(std::make_unique<QSaveFile>(content.path));
         if (const Result<void> done = prepare(*prepared.back(), content); !done) return done.failure();
     }
-    for (const auto& file : prepared)
+    for (const auto& file : prepared) {
+        errno = 0;
         if (!file->commit()) return writeFailure(file->fileName(), errno);
+    }
     return {};
 }
 

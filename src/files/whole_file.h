@@ -8,13 +8,14 @@
 
 namespace quarvel {
 
-/// Reads a regular file whole. Nothing but a regular file is ever opened, so that a pipe or a device under
+/// Reads a regular file whole. Nothing but a regular file is ever read, so that a pipe or a device under
 /// a file's name cannot hold the program up. Fails with NotFound, NotRegular, Unreadable, or TooLarge above
 /// `limitBytes`.
 [[nodiscard]] Result<QByteArray> readWholeFile(const QString& path, qint64 limitBytes);
 
 /// Replaces or creates a file in one step: the bytes go to a temporary neighbour, are flushed to the disk and
-/// take the file's name. On failure (Unwritable) the file is its old self. The folder must exist.
+/// take the file's name. On failure (Unwritable, DiskFull, NotRegular) the file is its old self. The folder
+/// must exist.
 [[nodiscard]] Result<void> writeWholeFile(const QString& path, const QByteArray& bytes);
 
 /// A file to be written.

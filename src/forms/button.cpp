@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <algorithm>
 
 namespace quarvel {
 namespace {
@@ -38,6 +39,7 @@ protected:
         if (picture_.isNull()) picture_ = compiledPicture(pictureName);
         const QSize natural = picture_.deviceIndependentSize().toSize();
         const int room = std::min(natural.height(), text.top() - inside.top());
+        if (room <= 0) return; // a long caption, or no such picture
         QRect place(0, 0, natural.width() * room / natural.height(), room);
         place.moveCenter({inside.center().x(), (inside.top() + text.top()) / 2});
         painter.setRenderHint(QPainter::SmoothPixmapTransform);

@@ -43,8 +43,9 @@ public:
     /// Shows the window; one that is not loaded is loaded first.
     void show();
     void hide();
-    /// Destroys the window's widgets as soon as the running handlers have returned; from here on it has no
-    /// controls.
+    /// Takes the window off the screen; its widgets are destroyed by the event loop. From here on it has no
+    /// controls: a handler that runs on after this, or after anything that lets other events in, touches `c`
+    /// only after asking for it.
     void unload();
 
     [[nodiscard]] QString windowName() const override;

@@ -6,11 +6,19 @@
 #include <QGuiApplication>
 #include <QPalette>
 #include <QWindow>
+#include <algorithm>
 
 namespace quarvel {
 namespace {
 
 int pixels(double twips) { return static_cast<int>(twips / twipsPerPixel); }
+
+/// The top left corner of a window in the middle of a screen; on a screen smaller than the window, the
+/// screen's own, so that the title bar can be reached.
+QPoint centredOn(const QRect& screen, const QSize& window) {
+    return screen.topLeft() + QPoint(std::max(0, (screen.width() - window.width()) / 2),
+                                     std::max(0, (screen.height() - window.height()) / 2));
+}
 
 } // namespace
 
@@ -72,7 +80,7 @@ void FormWidget::moveEvent(QMoveEvent* event) {
 
 void FormWidget::centreOn(const QRect& screen) {
     centreOn_ = screen;
-    move(screen.x() + (screen.width() - width()) / 2, screen.y() + (screen.height() - height()) / 2);
+    move(centredOn(screen, size()));
 }
 
 void FormWidget::centreOuterFrame() {
@@ -80,9 +88,7 @@ void FormWidget::centreOuterFrame() {
     if (windowHandle() == nullptr || windowHandle()->frameMargins().isNull()) return;
     const QRect screen = *centreOn_;
     centreOn_.reset();
-    const QSize outer = frameGeometry().size();
-    move(screen.x() + (screen.width() - outer.width()) / 2,
-         screen.y() + (screen.height() - outer.height()) / 2);
+    move(centredOn(screen, frameGeometry().size()));
 }
 
 } // namespace quarvel

@@ -85,6 +85,4 @@ void Image::setPicture(const Picture& picture) {
     area.update();
 }
 
-const Picture& Image::picture() const { return areaOf(*this).picture; }
-
 } // namespace quarvel

@@ -16,7 +16,6 @@ public:
 
     /// Shows a picture stretched to the image's place.
     void setPicture(const Picture& picture);
-    [[nodiscard]] const Picture& picture() const;
 
     Event<> clicked; ///< the left button was released on it
     /// A button went down on it: 1 left, 2 right, 4 middle; the point in pixels from its top left corner.

@@ -56,7 +56,8 @@ protected:
     }
     void focusOutEvent(QFocusEvent* event) override {
         QListView::focusOutEvent(event);
-        if (event->reason() != Qt::ActiveWindowFocusReason) owner->lostFocus.raise();
+        if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
+            owner->lostFocus.raise();
     }
     void keyPressEvent(QKeyEvent* event) override {
         const bool chooses =

@@ -28,7 +28,6 @@ inline constexpr QColor panel{224, 224, 224};
 inline constexpr QColor results{128, 64, 64};
 inline constexpr QColor ink{24, 26, 64};
 inline constexpr QColor paper{250, 250, 252};
-inline constexpr QColor accent{255, 180, 60};
 } // namespace colour
 
 [[nodiscard]] QFont fontOf(const Look& look);

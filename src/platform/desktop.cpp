@@ -10,6 +10,7 @@ namespace quarvel {
 namespace {
 
 constexpr double twipsPerInch = 1440;
+constexpr double usualDotsPerInch = 96;
 
 } // namespace
 
@@ -19,11 +20,13 @@ QRect QtScreen::whole() const {
 }
 
 double QtScreen::twipsPerPixelX() const {
-    return twipsPerInch / QGuiApplication::primaryScreen()->logicalDotsPerInchX();
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return twipsPerInch / (screen != nullptr ? screen->logicalDotsPerInchX() : usualDotsPerInch);
 }
 
 double QtScreen::twipsPerPixelY() const {
-    return twipsPerInch / QGuiApplication::primaryScreen()->logicalDotsPerInchY();
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return twipsPerInch / (screen != nullptr ? screen->logicalDotsPerInchY() : usualDotsPerInch);
 }
 
 void QtUrlOpener::open(const QString& url) { QDesktopServices::openUrl(QUrl(url)); }

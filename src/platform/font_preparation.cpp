@@ -1,6 +1,7 @@
 #include "platform/font_preparation.h"
 
 #include <dlfcn.h>
+#include <system_error>
 
 namespace quarvel {
 namespace {
@@ -14,7 +15,13 @@ Initialise fontInitialisation() { return reinterpret_cast<Initialise>(::dlsym(RT
 } // namespace
 
 FontPreparation::FontPreparation() {
-    if (const Initialise initialise = fontInitialisation()) reading_ = std::thread(initialise);
+    const Initialise initialise = fontInitialisation();
+    if (initialise == nullptr) return;
+    try {
+        reading_ = std::thread(initialise);
+    } catch (const std::system_error&) {
+        // Without a thread to spare the toolkit reads the list itself, later.
+    }
 }
 
 FontPreparation::~FontPreparation() { finish(); }

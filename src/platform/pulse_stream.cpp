@@ -52,7 +52,7 @@ const Library& library() {
     return loaded;
 }
 
-constexpr qsizetype serverBufferBytes = 2 * 1024 * 1024; // the server keeps twice as much at most
+constexpr qsizetype serverBufferBytes = qsizetype{2} * 1024 * 1024; // the server keeps twice as much at most
 constexpr int feedEveryMilliseconds = 200;
 
 } // namespace

@@ -33,7 +33,7 @@ class frmMain : public FormOf<frmMainControls> {
 public:
     explicit frmMain(const frmMainNeeds& needs);
 
-    /// Where "&Uscita", "&Info" and their like are written about and the mail goes.
+    /// Where a mail from the information frame goes; the frame shows the same address.
     static constexpr char16_t supportAddress[] = u"supporto@quarvel.example";
 
     /// Makes language `index` current, puts its texts on every loaded window and records it.

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QTimer>
 #include <algorithm>
+#include <iterator>
 
 namespace quarvel {
 
@@ -15,6 +16,7 @@ Program::Program(const QString& programFolder, const Services& services, Present
 }
 
 void Program::show(WindowName name) {
+    if (!has(name)) return;
     Form& form = name == WindowName::frmMain ? static_cast<Form&>(main_) : view_;
     if (!form.isLoaded()) inLoadingOrder_.push_back(&form);
     form.show();

@@ -9,8 +9,8 @@ struct ProcessState {
     /// The name of the airport opened in the main window, as in its name box. Written when an airport is
     /// opened; read by the chart viewer to find the family folders and for its caption.
     QString CurrentAirport;
-    /// The ICAO code of that airport. Written when its record is read; read for the picture's and the
-    /// presenter text's paths.
+    /// The ICAO code of that airport. Written when its record is read or saved, and put back when an opening
+    /// fails; read for the presenter text's path.
     QString CurrentIcao;
     /// The family folder last chosen in the viewer, ending in a separator. Written by the viewer; for the
     /// companion window.

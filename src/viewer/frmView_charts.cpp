@@ -29,6 +29,7 @@ FamilyTexts textsOf(Family family) {
 } // namespace
 
 void frmView::Option1_Click(int index) {
+    c->frame6.setUsable(Usable::Yes); // also the way back, whatever becomes of the list
     const Family family = familyOfOption(index);
     const QString folder = paths_.familyFolder(state_.CurrentAirport, familyFolderName(family));
     if (const Result<void> listed = c->File1.setPath(folder); !listed) {
@@ -37,7 +38,6 @@ void frmView::Option1_Click(int index) {
         prompts_.tell(*this, Task::ListCharts, listed.failure());
         return;
     }
-    c->frame6.setUsable(Usable::Yes);
     state_.FamilyFolder = folder;
     c->List1.setItems(chartNames(c->File1.files()));
     chosenRow_ = -1;

@@ -106,47 +106,25 @@ private Q_SLOTS:
     }
 
     void newAirportGetsItsFolders() {
-        const QString longest(244, u'A'); // the longest name must still be savable
-        for (const QString& name : {u"LIRF"_s, longest}) {
-            QVERIFY(createAirportFolders(*paths_, name).ok());
-            QCOMPARE(QDir(at(u"Aeroporti/"_s + name)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-                     (QStringList{u"Aeroporto"_s, u"Approach"_s, u"Sid"_s, u"Star"_s}));
-            QVERIFY(writeRecord(paths_->dataFileForWriting(name), recordOf(u"x"_s)).ok());
-            QVERIFY(QFileInfo::exists(at(u"Aeroporti/"_s + name + u"/Aeroporto/"_s + name + u".txt"_s)));
-            QVERIFY(readRecord(paths_->dataFile(name.toLower())).ok());
-            QCOMPARE(paths_->dataFileForWriting(name.toLower()),
-                     paths_->generalFolder(name) + u'/' + name.toLower() + u".txt"_s);
-        }
-        QCOMPARE(paths_->familyFolder(u"lirf"_s, u"STAR"_s), at(u"Aeroporti/LIRF/Star/"_s));
+        const QString name(244, u'A'); // the longest name must still be savable
+        QVERIFY(createAirportFolders(*paths_, name).ok());
+        QCOMPARE(QDir(at(u"Aeroporti/"_s + name)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                 (QStringList{u"Aeroporto"_s, u"Approach"_s, u"Sid"_s, u"Star"_s}));
+        QVERIFY(writeRecord(paths_->dataFileForWriting(name), recordOf(u"x"_s)).ok());
+        QVERIFY(QFileInfo::exists(at(u"Aeroporti/"_s + name + u"/Aeroporto/"_s + name + u".txt"_s)));
+        QVERIFY(readRecord(paths_->dataFile(name.toLower())).ok());
+        QCOMPARE(paths_->familyFolder(name.toLower(), u"STAR"_s), at(u"Aeroporti/"_s + name + u"/Star/"_s));
     }
 
-    void openingChecks_data() {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<QString>("icao");
-        QTest::addColumn<bool>("data");
-        QTest::addColumn<QString>("picture"); // empty: none
-        const auto row = [](const char* claim, const QStringList& files, const QString& icao, bool data,
-                            const QString& picture) {
-            QTest::newRow(claim) << files << icao << data << picture;
-        };
-        row("data in other letters is missing", {u"lirf.txt"_s, u"LIRF.gif"_s}, u"LIRF"_s, false,
-            u"LIRF.gif"_s);
-        row("the picture found is the one shown", {u"LIrf.gif"_s, u"lirf.gif"_s}, u"LIRF"_s, false,
-            u"lirf.gif"_s);
-        row("the code's blanks do not count", {u"LIRF.gif"_s}, u" LIRF "_s, false, u"LIRF.gif"_s);
-        row("a code that leaves the folder", {u"LIRF.gif"_s}, u"../Aeroporto/LIRF"_s, false, u""_s);
-    }
-
-    void openingChecks() {
+    void openingLooksForExactNames() {
         QVERIFY(createAirportFolders(*paths_, u"LIRF"_s).ok());
-        QFETCH(QStringList, files);
-        QFETCH(QString, icao);
-        QFETCH(QString, picture);
         const QString folder = at(u"Aeroporti/LIRF/Aeroporto/"_s);
-        for (const QString& file : files) put(folder + file);
-        QTEST(hasDataFile(*paths_, u"LIRF"_s), "data");
-        QCOMPARE(hasPicture(*paths_, u"LIRF"_s, icao), !picture.isEmpty());
-        if (!picture.isEmpty()) QCOMPARE(paths_->picture(u"lirf"_s, icao), folder + picture);
+        for (const QString& file : {u"lirf.txt"_s, u"LIrf.gif"_s}) put(folder + file);
+        QVERIFY(!hasDataFile(*paths_, u"LIRF"_s) && !hasPicture(*paths_, u"LIRF"_s, u"LIRF"_s));
+        put(folder + u"lirf.gif"_s);
+        QVERIFY(hasPicture(*paths_, u"LIRF"_s, u" LIRF "_s)); // the code's blanks do not count
+        QCOMPARE(paths_->picture(u"lirf"_s, u"LIRF"_s), folder + u"lirf.gif"_s); // the one found is shown
+        QVERIFY(!hasPicture(*paths_, u"LIRF"_s, u"../Aeroporto/lirf"_s));
     }
 };
 

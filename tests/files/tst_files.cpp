@@ -33,34 +33,22 @@ private Q_SLOTS:
         root_ = temp_->path();
     }
 
-    void resolving_data() {
-        QTest::addColumn<QString>("asked");
-        QTest::addColumn<QString>("found");
-        QTest::addColumn<QString>("toWrite");
-        const auto row = [](const char* claim, const QString& asked, const QString& found,
-                            const QString& toWrite) { QTest::newRow(claim) << asked << found << toWrite; };
-        row("every part in other letters", u"Aeroporti/lirf/aeroporto/lirf.TXT"_s,
-            u"aeroporti/LIRF/Aeroporto/Lirf.txt"_s, u"aeroporti/LIRF/Aeroporto/lirf.TXT"_s);
-        row("an exact twin goes first", u"aeroporti/LIRF/Sid"_s, u"aeroporti/LIRF/Sid"_s,
-            u"aeroporti/LIRF/Sid"_s);
-        row("else the first twin by name", u"aeroporti/LIRF/sid"_s, u"aeroporti/LIRF/SID"_s,
-            u"aeroporti/LIRF/sid"_s);
-        row("accents in either form", u"aeroporti/FORL\u00CC"_s, u"aeroporti/Forli\u0300"_s,
-            u"aeroporti/FORL\u00CC"_s);
-        row("what is missing stays as written", u"AEROPORTI/Nuovo/sid"_s, u"aeroporti/Nuovo/sid"_s,
-            u"aeroporti/Nuovo/sid"_s);
-    }
-
-    void resolving() {
+    void everyPartOfAPathIsFoundInAnyCase() {
         for (const QString& path : {u"aeroporti/LIRF/Aeroporto"_s, u"aeroporti/LIRF/Sid"_s,
                                     u"aeroporti/LIRF/SID"_s, u"aeroporti/Forli\u0300"_s})
             QVERIFY(QDir(root_).mkpath(path));
         put(at(u"aeroporti/LIRF/Aeroporto/Lirf.txt"_s));
-        QFETCH(QString, asked);
-        QFETCH(QString, found);
-        QFETCH(QString, toWrite);
-        QCOMPARE(resolvePath(root_, asked), at(found));
-        QCOMPARE(resolveForWriting(root_, asked), at(toWrite));
+        const auto resolves = [this](const QString& asked, const QString& found, const QString& toWrite) {
+            QCOMPARE(resolvePath(root_, asked), at(found));
+            QCOMPARE(resolveForWriting(root_, asked), at(toWrite));
+        };
+        resolves(u"Aeroporti/lirf/aeroporto/lirf.TXT"_s, u"aeroporti/LIRF/Aeroporto/Lirf.txt"_s,
+                 u"aeroporti/LIRF/Aeroporto/lirf.TXT"_s);
+        // An exact twin goes first, else the first by name.
+        resolves(u"aeroporti/LIRF/Sid"_s, u"aeroporti/LIRF/Sid"_s, u"aeroporti/LIRF/Sid"_s);
+        resolves(u"aeroporti/LIRF/sid"_s, u"aeroporti/LIRF/SID"_s, u"aeroporti/LIRF/sid"_s);
+        resolves(u"aeroporti/FORL\u00CC"_s, u"aeroporti/Forli\u0300"_s, u"aeroporti/FORL\u00CC"_s);
+        resolves(u"AEROPORTI/Nuovo/sid"_s, u"aeroporti/Nuovo/sid"_s, u"aeroporti/Nuovo/sid"_s);
     }
 
     void filesOfFolder() {

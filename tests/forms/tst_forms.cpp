@@ -1,4 +1,3 @@
-#include "forms/button.h"
 #include "forms/list_box.h"
 #include "forms/text_box.h"
 #include "text/key_filter.h"

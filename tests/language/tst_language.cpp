@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <memory>
+#include <utility>
 
 using namespace quarvel;
 using namespace Qt::StringLiterals;
@@ -60,23 +61,17 @@ private Q_SLOTS:
         QTEST(ReadIniString(path(u"a.lng"_s), u"Strings"_s, key).value(), "value");
     }
 
-    void lineScan_data() {
-        QTest::addColumn<QByteArray>("lines");
-        QTest::addColumn<QString>("value");
-        const auto row = [](const char* claim, const QByteArray& lines, const QString& value) {
-            QTest::newRow(claim) << lines << value;
-        };
-        row("quoted text loses its quotes", "Key=\"abc\"\r\n", u"abc"_s);
-        row("the first in whatever section", "[other]\r\nKey=\"1\"\r\n[Strings]\r\nKey=\"2\"\r\n", u"1"_s);
-        row("a line that merely begins with the key", "Key2=\"abc\"\r\nKey=\"x\"\r\n", u"\"abc"_s);
-        row("the key within a line", "a Key=\"1\" Key=\"2\"\r\nKey=\"3\"\r\n", u"3"_s);
-        row("one character after the equals sign", "Key=a\r\nKey=\"b\"\r\n", QString());
-    }
-
-    void lineScan() {
-        QFETCH(QByteArray, lines);
-        put(u"a.lng"_s, QByteArray(largestProfileBytes, ';') + "\r\n" + lines);
-        QTEST(ReadIniString(path(u"a.lng"_s), u"Strings"_s, u"Key"_s).value(), "value");
+    void largeFilesAreScannedLineByLine() {
+        const QList<std::pair<QByteArray, QString>> files = {
+            {"[other]\r\nKey=\"1\"\r\n[Strings]\r\nKey=\"2\"\r\n", u"1"_s}, // whatever the section
+            {"Key2=\"abc\"\r\nKey=\"x\"\r\n", u"\"abc"_s},                  // merely begins with the key
+            {"a Key=\"1\" Key=\"2\"\r\nKey=\"3\"\r\n", u"3"_s},             // the key within a line
+            {"Key=a\r\nKey=\"b\"\r\n", QString()},
+            {"Key=\"abc\"\nKey=\"x\"\n", u"abc"_s}};
+        for (const auto& [lines, value] : files) {
+            put(u"a.lng"_s, QByteArray(largestProfileBytes, ';') + "\r\n" + lines);
+            QCOMPARE(ReadIniString(path(u"a.lng"_s), u"Strings"_s, u"Key"_s).value(), value);
+        }
     }
 
     void lineScanStartsAbove64000Bytes() {
@@ -87,45 +82,21 @@ private Q_SLOTS:
         QCOMPARE(ReadIniString(path(u"a.lng"_s), u"Strings"_s, u"KEY"_s).value(), QString());
     }
 
-    void writing_data() {
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QByteArray>("after");
-        const auto row = [](const char* claim, const QByteArray& before, const QByteArray& after) {
-            QTest::newRow(claim) << before << after;
-        };
-        row("value replaced, quotes too", "[Language]\r\nCurrentLanguage=\"old\"\r\nb=1\r\n",
-            "[Language]\r\nCurrentLanguage=new\r\nb=1\r\n");
-        row("other lines stay to the byte",
-            QByteArrayLiteral("\xFF\0;\r\n\n[language]\n currentLANGUAGE = old\t\nCurrentLanguage=2"),
-            QByteArrayLiteral("\xFF\0;\r\n\n[language]\n currentLANGUAGE = new\t\nCurrentLanguage=2"));
-        row("key added behind the section's last entry", "[Language]\na=1\n\n[x]\nCurrentLanguage=2\n",
-            "[Language]\na=1\nCurrentLanguage=new\r\n\n[x]\nCurrentLanguage=2\n");
-        row("section added behind a line without end", "a=1\n[x]\nb=2",
-            "a=1\n[x]\nb=2\r\n[Language]\r\nCurrentLanguage=new\r\n");
-    }
-
-    void writing() {
-        QFETCH(QByteArray, before);
-        put(u"LangSetting.ini"_s, before);
-        support().writeSettingLanguage(u"new"_s);
-        QTEST(bytesOf(u"LangSetting.ini"_s), "after");
-        QCOMPARE(support().settingLanguage().value(), u"new"_s);
-    }
-
-    void messageOfTheSettingsLanguage() {
-        modLanguageSupport language = support();
-        put(u"ITALIANO.LNG"_s, "[Strings]\r\n0001=\"uno\"\r\n");
-        QCOMPARE(language.MLSGetString(u"0001"_s), QString());
-        QVERIFY(current_.isEmpty() && !language.settingLanguage());
-
-        language.writeSettingLanguage(u"Italiano"_s);
-        QCOMPARE(bytesOf(u"LangSetting.ini"_s), QByteArray("[Language]\r\nCurrentLanguage=Italiano\r\n"));
-        QCOMPARE(language.MLSGetString(u"0001"_s), u"uno"_s);
-        QCOMPARE(current_, u"Italiano"_s);
-
-        language.writeSettingLanguage(u"English"_s); // the language in use stays, its file is read anew
-        put(u"ITALIANO.LNG"_s, "[Strings]\r\n0001=\"due\"\r\n");
-        QCOMPARE(language.MLSGetString(u"0001"_s), u"due"_s);
+    void writingKeepsOtherLinesToTheByte() {
+        const QList<std::pair<QByteArray, QByteArray>> files = {
+            {"[Language]\r\nCurrentLanguage=\"old\"\r\nb=1\r\n",
+             "[Language]\r\nCurrentLanguage=new\r\nb=1\r\n"},
+            {QByteArrayLiteral("\xFF\0;\r\n\n[language]\n currentLANGUAGE = old\t\nCurrentLanguage=2"),
+             QByteArrayLiteral("\xFF\0;\r\n\n[language]\n currentLANGUAGE = new\t\nCurrentLanguage=2")},
+            {"[Language]\na=1\n\n[x]\nCurrentLanguage=2\n", // added behind the section's last entry
+             "[Language]\na=1\nCurrentLanguage=new\r\n\n[x]\nCurrentLanguage=2\n"},
+            {"a=1\n[x]\nb=2", "a=1\n[x]\nb=2\r\n[Language]\r\nCurrentLanguage=new\r\n"}};
+        for (const auto& [before, after] : files) {
+            put(u"LangSetting.ini"_s, before);
+            support().writeSettingLanguage(u"new"_s);
+            QCOMPARE(bytesOf(u"LangSetting.ini"_s), after);
+            QCOMPARE(support().settingLanguage().value(), u"new"_s);
+        }
     }
 
     void passOverAWindow() {

@@ -10,6 +10,7 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
+#include <utility>
 
 using namespace quarvel;
 using namespace Qt::StringLiterals;
@@ -41,27 +42,21 @@ private Q_SLOTS:
         QVERIFY(QDir(airport + u"Sid"_s).exists()); // made with the save, the name being new
     }
 
-    void aSaveThatFailsChangesNothing_data() {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("code");
-        QTest::newRow("a name that leads out of the archive") << u"../ROMA"_s << u"LIRF"_s;
-        QTest::newRow("a code that leads out of the folder") << u"ROMA"_s << u"../X"_s;
-        QTest::newRow("a general-data folder that is gone") << u"VUOTO"_s << u"LIRF"_s;
-        QTest::newRow("a presenter text that is a folder") << u"ROMA"_s << u"DIR"_s;
-    }
-
     void aSaveThatFailsChangesNothing() {
-        QFETCH(QString, name);
-        QFETCH(QString, code);
         const QTemporaryDir folder;
         const QString archive = folder.path() + u"/aeroporti/"_s;
         QDir().mkpath(archive + u"ROMA/Aeroporto"_s);
-        QDir().mkpath(archive + u"ROMA/DIR_Agent.txt"_s);
-        QDir().mkpath(archive + u"VUOTO"_s);
+        QDir().mkpath(archive + u"ROMA/DIR_Agent.txt"_s); // a folder in the presenter text's place
+        QDir().mkpath(archive + u"VUOTO"_s);              // without its general-data folder
         put(archive + u"ROMA/Aeroporto/ROMA.txt"_s, "old");
         AirportRecord record;
-        record.values[IcaoCode] = code;
-        QVERIFY(!saveAirport(ArchivePaths(folder.path()), name, record));
+        for (const auto& [name, code] : {std::pair(u"../ROMA"_s, u"LIRF"_s),
+                                         {u"ROMA"_s, u"../X"_s},
+                                         {u"VUOTO"_s, u"LIRF"_s},
+                                         {u"ROMA"_s, u"DIR"_s}}) {
+            record.values[IcaoCode] = code;
+            QVERIFY2(!saveAirport(ArchivePaths(folder.path()), name, record), qPrintable(name + code));
+        }
         QCOMPARE(bytesOf(archive + u"ROMA/Aeroporto/ROMA.txt"_s), QByteArray("old"));
         QCOMPARE(QDir(archive).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
                  QStringList({u"ROMA"_s, u"VUOTO"_s}));

@@ -1,6 +1,7 @@
 #include "support/test_program.h"
 
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
 
 using namespace quarvel;
@@ -30,7 +31,6 @@ private:
     }
 
 private Q_SLOTS:
-
     void leavingAFirstEndFillsTheSecond() {
         const auto test = newAirport();
         enter(*test, 3, u"09l"_s);
@@ -72,7 +72,7 @@ private Q_SLOTS:
 
     void aSavedAirportIsFoundAtTheNextStart() {
         const auto test = newAirport();
-        enter(*test, IcaoCode, u"lirf"_s);
+        enter(*test, IcaoCode, u"lirfx"_s); // four letters can be typed
         enter(*test, Latitude, u"n45,30"_s);
         TestProgram::click(test->mainWindow(), u"cmdSave"_s);
         QCOMPARE(test->boxes.shown.size(), 2); // the question, and that it is done

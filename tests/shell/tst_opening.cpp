@@ -125,43 +125,22 @@ private Q_SLOTS:
         QCOMPARE(test.program().state().CurrentAirport, u"NUOVO"_s);
     }
 
-    void refusedNamesTouchNothing() {
-        TestProgram test;
-        test.start();
-        test.program().state().CurrentAirport = u"PRIMA"_s;
-        test.type(u"../FUORI"_s);
-        TestProgram::click(test.mainWindow(), u"cmdElabora"_s);
-        QVERIFY(test.boxes.shown.last().text.contains(u"Il nome scelto non può"_s));
-        QCOMPARE(test.program().state().CurrentAirport, u"PRIMA"_s);
-        QCOMPARE(text(test.mainWindow(), u"txtNomeAeroporto"_s), u"../FUORI"_s);
-        QVERIFY(QDir(test.path(u"aeroporti"_s)).isEmpty());
-    }
-
-    void failuresLeaveTheWindowAsItWas_data() {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("told");
-        QTest::newRow("short record") << u"LIRF.txt"_s << QByteArray("\"a\"\r\n\"b\"\r\n") << u"incompleto"_s;
-        QTest::newRow("damaged picture")
-            << u"LIRF.gif"_s << QByteArray("not a GIF at all") << u"danneggiato"_s;
-    }
-
     void failuresLeaveTheWindowAsItWas() {
-        QFETCH(QString, file);
-        QFETCH(QByteArray, content);
-        QFETCH(QString, told);
-        TestProgram test;
-        test.addAirport(u"LIRF"_s);
-        test.write(u"aeroporti/LIRF/Aeroporto/"_s + file, content);
-        test.start();
-        test.openAirport(u"L"_s);
-        QWidget* window = test.mainWindow();
-        QCOMPARE(test.boxes.shown.size(), 1);
-        QVERIFY2(test.boxes.shown.first().text.contains(told), qPrintable(test.boxes.shown.first().text));
-        QVERIFY(test.boxes.shown.first().text.contains(file));
-        QCOMPARE(text(window, u"txtNomeAeroporto"_s), u"L"_s);
-        QVERIFY(visible(window, u"fraRicerca"_s) && !visible(window, u"Frame4"_s));
-        QCOMPARE(test.program().state().CurrentAirport, QString());
+        for (const auto& [file, told] :
+             {std::pair(u"LIRF.txt"_s, u"incompleto"_s), {u"LIRF.gif"_s, u"danneggiato"_s}}) {
+            TestProgram test;
+            test.addAirport(u"LIRF"_s);
+            test.write(u"aeroporti/LIRF/Aeroporto/"_s + file, "neither a GIF nor a record");
+            test.start();
+            test.openAirport(u"L"_s);
+            QWidget* window = test.mainWindow();
+            QCOMPARE(test.boxes.shown.size(), 1);
+            QVERIFY(test.boxes.shown.first().text.contains(told));
+            QVERIFY(test.boxes.shown.first().text.contains(file));
+            QCOMPARE(text(window, u"txtNomeAeroporto"_s), u"L"_s);
+            QVERIFY(visible(window, u"fraRicerca"_s) && !visible(window, u"Frame4"_s));
+            QCOMPARE(test.program().state().CurrentAirport, QString());
+        }
     }
 };
 

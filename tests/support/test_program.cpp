@@ -28,20 +28,16 @@ QByteArray TestProgram::read(const QString& relative) const {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void TestProgram::addAirport(const QString& name, const AirportRecord& record) const {
-    const QString folder = u"aeroporti/"_s + name + u'/';
-    for (const auto& part : {u"Sid"_s, u"Star"_s, u"Approach"_s, u"Aeroporto"_s})
-        QDir().mkpath(path(folder + part));
-    write(folder + u"Aeroporto/"_s + name + u".txt"_s, recordBytes(record, name).value());
-    addChart(folder + u"Aeroporto/"_s + name + u".gif"_s, {20, 30});
-}
-
 void TestProgram::addAirport(const QString& name) const {
     AirportRecord record;
     for (int position = 0; position < recordSize; ++position)
         record.values[static_cast<std::size_t>(position)] = u"V%1"_s.arg(position);
     record.values[IcaoCode] = name;
-    addAirport(name, record);
+    const QString folder = u"aeroporti/"_s + name + u'/';
+    for (const auto& part : {u"Sid"_s, u"Star"_s, u"Approach"_s, u"Aeroporto"_s})
+        QDir().mkpath(path(folder + part));
+    write(folder + u"Aeroporto/"_s + name + u".txt"_s, recordBytes(record, name).value());
+    addChart(folder + u"Aeroporto/"_s + name + u".gif"_s, {20, 30});
 }
 
 void TestProgram::addChart(const QString& relative, QSize size) const {

@@ -23,7 +23,6 @@ public:
     [[nodiscard]] QByteArray read(const QString& relative) const;
 
     /// An airport with a data file and a small picture; its ICAO code is its name.
-    void addAirport(const QString& name, const AirportRecord& record) const;
     void addAirport(const QString& name) const;
     /// A white chart of a size, such as "aeroporti/LIRF/Sid/KENN1.gif".
     void addChart(const QString& relative, QSize size) const;

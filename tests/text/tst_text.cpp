@@ -1,5 +1,4 @@
 #include "text/code_page.h"
-#include "text/key_filter.h"
 #include "text/rounding.h"
 
 #include <QTest>
@@ -26,12 +25,6 @@ private Q_SLOTS:
         QCOMPARE(encodeCodePage(u"\u0080"_s).refused, u"\u0080"_s);   // the euro has its byte
         QCOMPARE(encodeCodePage(u"aŁb→"_s).refused, u"Ł"_s);
         QCOMPARE(encodeCodePage(u"x😀"_s).refused, u"😀"_s);
-    }
-
-    void keyFilter() {
-        QString keys = u"@az`{AZ\u00E8\u00FF\u0131\u017F"_s;
-        for (QChar& key : keys) key = UpperCaseKey(key.unicode());
-        QCOMPARE(keys, u"@AZ`{AZ\u00E8\u00FF\u0131\u017F"_s);
     }
 
     void halvesRoundToEven() {

@@ -2,7 +2,6 @@
 
 #include <QTest>
 #include <functional>
-#include <limits>
 #include <vector>
 
 using namespace quarvel;
@@ -93,6 +92,11 @@ private Q_SLOTS:
         row("buttons keep the corner until the range ends", viewer,
             {load({800, 1100}), values(700, 20), in(600, 600, ZoomBy::Button), out(0, 0), out(0, 0)},
             u"562.5x773.4375 at -556,-20 | 1..556@556 | 1..758@20 | zoom -1"_s);
+        // 45000 x 825: 790 + 10 passes the maximum 794 from before, and the new range is beyond 16 bits.
+        row("zoom out past the old maximum", viewer,
+            {load({800, 1100}), values(790, 9), place(-790, -9, 60000, 1100), out(-600, 0)},
+            u"45000x825 at -794,-9 | 1..794@794 | 1..1085@9 | zoom -1"_s);
+        // 375 x 500: 500 - 433, 1 + 240 / 15 / 4.
         row("narrower than the frame stands at Left 0", companion, {load({300, 400}), in(60, 240)},
             u"375x500 at 0,-5 | off 0..32767@1 | 1..67@5 | zoom 1"_s);
         // 375 x 500, then 468.75 x 625: 91.75, 192; 1 + 60 / 60. Then 351.5625 x 468.75: 35.75.
@@ -110,8 +114,11 @@ private Q_SLOTS:
         row("value between crossed bounds", {6.75F, 400},
             {load({500, 600}), values(50, 1), place(-50, -1, 7, 600), recompute},
             u"7x600 at -1,-1 | 1..0@1 | 1..200@1 | zoom 0"_s);
-        // Before any chart the minimum is 0: the maximum 0 takes the value along, the minimum 1 leaves it
-        // there.
+        // Before any chart the minimum is 0: the maximum 0 takes the value along, the minimum 1 leaves it.
+        row("maximum pulls before the minimum", {6.75F, 400},
+            {values(50, 0), place(-50, 0, 7, 600), recompute},
+            u"7x600 at 0,-1 | 1..0@0 | 1..200@1 | zoom 0"_s);
+        // 29993.5124, 84.5186; then 37500 x 125: the bar across keeps its range, the other is not reached.
         row("range beyond 16 bits across", viewer, {load({30000, 100}), in(600, 600)},
             u"37500x125 at -11,-11 | 1..29994@11 | 1..85@11 | zoom 1"_s);
     }
@@ -131,6 +138,7 @@ private Q_SLOTS:
         // A chart of 800 x 1100: the range grows to 994 (1000 - 6.4876) or shrinks to 594 (600 - 6.4876).
         QTest::newRow("in: a sixtieth of the distance") << in(600, 0) << 1 << 11;
         QTest::newRow("in: half to the even value below") << in(690, 0) << 1 << 12; // 1 + 11.5
+        QTest::newRow("in: half to the even value above") << in(750, 0) << 1 << 14; // 1 + 12.5
         QTest::newRow("in: up to the new maximum") << in(12000, 0) << 793 << 993;
         QTest::newRow("in: below the minimum is skipped") << in(-600, 0) << 5 << 5;
         QTest::newRow("in: a button has no point") << in(600, 0, ZoomBy::Button) << 5 << 5;

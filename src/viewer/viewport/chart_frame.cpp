@@ -76,13 +76,6 @@ void ChartFrame::verticalMoved() {
     });
 }
 
-void ChartFrame::Set_Scrolls() {
-    run([&] {
-        viewport_.Set_Scrolls();
-        return ZoomOutcome::Done;
-    });
-}
-
 void ChartFrame::show() {
     image_.setMeasures({viewport_.left(), viewport_.top(), viewport_.width(), viewport_.height()});
     showBar(horizontal_, viewport_.horizontal());

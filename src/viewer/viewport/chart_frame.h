@@ -32,8 +32,6 @@ public:
     void horizontalMoved();
     void verticalMoved();
 
-    void Set_Scrolls();
-
 private:
     /// Takes over the measures as the controls have them now, runs a step of the arithmetic, and shows what
     /// it gave.

@@ -50,6 +50,11 @@ private Q_SLOTS:
         QWidget* window = test->viewWindow();
         QCOMPARE(window->size(), QSize(752, 592));
         QVERIFY(!TestProgram::control(window, u"frame6"_s)->isEnabled());
+        QVERIFY(QDir(test->path(u"aeroporti/LIRF"_s)).rename(u"Star"_s, u"Gone"_s));
+        TestProgram::click(window, u"Option1(1)"_s);
+        QVERIFY(test->boxes.shown.last().text.contains(u"/Star"_s));
+        QVERIFY(TestProgram::control(window, u"frame6"_s)->isEnabled()); // the way back is open all the same
+        QVERIFY(QDir(test->path(u"aeroporti/LIRF"_s)).rename(u"Gone"_s, u"Star"_s));
         const auto shown = [&](const QString& option) {
             TestProgram::click(window, option);
             const QString count = TestProgram::control<QLabel>(window, u"lblTotProc"_s)->text();

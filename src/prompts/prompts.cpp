@@ -9,24 +9,7 @@ using namespace Qt::StringLiterals;
 namespace quarvel {
 namespace {
 
-QString numberOf(Task task) {
-    switch (task) {
-    case Task::NameAirport: return u"0110"_s;
-    case Task::ReadRecord: return u"0111"_s;
-    case Task::MakeFolders: return u"0112"_s;
-    case Task::ReadAirportPicture: return u"0113"_s;
-    case Task::ListCharts: return u"0114"_s;
-    case Task::ReadChart: return u"0115"_s;
-    case Task::ShowChart: return u"0116"_s;
-    case Task::ReadNote: return u"0117"_s;
-    case Task::SaveNotes: return u"0118"_s;
-    case Task::ChooseChartFirst: return u"0119"_s;
-    case Task::FindPrinter: return u"0120"_s;
-    case Task::Print: return u"0121"_s;
-    case Task::SaveAirport: return u"0122"_s;
-    }
-    return {};
-}
+QString numberOf(Task task) { return u"%1"_s.arg(static_cast<int>(task), 4, 10, QChar(u'0')); }
 
 QString numberOf(Fault fault) {
     switch (fault) {

@@ -10,21 +10,22 @@
 
 namespace quarvel {
 
-/// What was being done when something went wrong; each has a numbered message of its own.
+/// What was being done when something went wrong: each is the number of the message that says so (110 for
+/// "0110").
 enum class Task {
-    NameAirport, ///< a name was typed for an airport
-    ReadRecord,  ///< an airport's data file
-    MakeFolders, ///< a new airport's folders
-    ReadAirportPicture,
-    ListCharts,
-    ReadChart,
-    ShowChart, ///< a chart too large for its scroll bars
-    ReadNote,
-    SaveNotes,
-    ChooseChartFirst, ///< notes were to be saved without a chart of the list on show
-    FindPrinter,
-    Print,
-    SaveAirport, ///< a new airport's data file and presenter text file
+    NameAirport = 110, ///< a name was typed for an airport
+    ReadRecord = 111,  ///< an airport's data file
+    MakeFolders = 112, ///< a new airport's folders
+    ReadAirportPicture = 113,
+    ListCharts = 114,
+    ReadChart = 115,
+    ShowChart = 116, ///< a chart too large for its scroll bars
+    ReadNote = 117,
+    SaveNotes = 118,
+    ChooseChartFirst = 119, ///< notes were to be saved without a chart of the list on show
+    FindPrinter = 120,
+    Print = 121,
+    SaveAirport = 122, ///< a new airport's data file and presenter text file
 };
 
 /// The window's own questions and messages, in the current language.

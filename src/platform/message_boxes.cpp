@@ -45,6 +45,9 @@ Answer answerOf(int button) {
 Answer QtMessageBoxes::show(QWidget* parent, const MessageBox& box, const ButtonCaptions& captions) {
     QMessageBox shown(iconOf(box.icon), box.title, box.text, buttonsOf(box.buttons), parent);
     shown.setTextFormat(Qt::PlainText);
+    // Of a window above all others, a box must be so too: the window may be hidden, or lie below it.
+    if (parent != nullptr && parent->windowFlags().testFlag(Qt::WindowStaysOnTopHint))
+        shown.setWindowFlag(Qt::WindowStaysOnTopHint);
     nameButton(shown, QMessageBox::Ok, captions.ok);
     nameButton(shown, QMessageBox::Cancel, captions.cancel);
     nameButton(shown, QMessageBox::Yes, captions.yes);

@@ -3,6 +3,7 @@
 #include "platform/desktop.h"
 #include "platform/form_printer.h"
 #include "platform/message_boxes.h"
+#include "platform/notification_area.h"
 #include "platform/sound_player.h"
 
 namespace quarvel {
@@ -16,6 +17,7 @@ struct Services {
     Screen& screen;
     ProcessEnd& process;
     Beeper& beeper;
+    NotificationArea& notificationArea;
 };
 
 } // namespace quarvel

@@ -1,6 +1,8 @@
 #include "forms/look.h"
+#include "platform/desktop_notification_area.h"
 #include "platform/font_preparation.h"
 #include "platform/services.h"
+#include "platform/window_system.h"
 #include "presenter/presenter.h"
 #include "shell/program.h"
 
@@ -9,6 +11,7 @@
 using namespace Qt::StringLiterals;
 
 int main(int argc, char** argv) {
+    quarvel::chooseWindowSystem();
     quarvel::FontPreparation fonts;
     QApplication application(argc, argv);
     fonts.finish();
@@ -24,9 +27,11 @@ int main(int argc, char** argv) {
     quarvel::QtScreen screen;
     quarvel::RealProcessEnd process;
     quarvel::QtBeeper beeper;
+    quarvel::DesktopNotificationArea notificationArea;
     quarvel::NoPresenter presenter;
     quarvel::Program program(QApplication::applicationDirPath(),
-                             {messageBoxes, sounds, printer, urls, screen, process, beeper}, presenter);
+                             {messageBoxes, sounds, printer, urls, screen, process, beeper, notificationArea},
+                             presenter);
     program.show(quarvel::WindowName::frmMain);
     return QApplication::exec();
 }

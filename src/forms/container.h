@@ -6,6 +6,8 @@
 #include <QWidget>
 #include <vector>
 
+class QMenuBar;
+
 namespace quarvel {
 
 /// What controls lie in: a window's inside, a frame or a picture box. All containers of a window share the
@@ -20,6 +22,8 @@ public:
     [[nodiscard]] QWidget& inside() const { return inside_; }
     [[nodiscard]] ScaleUnit unit() const { return unit_; }
     [[nodiscard]] std::vector<Control*>& controlList() const { return list_; }
+    /// Where top-level menus are shown; none for a window whose menus only pop up.
+    [[nodiscard]] virtual QMenuBar* menuBar() { return nullptr; }
 
 protected:
     ~Container() = default;

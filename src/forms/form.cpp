@@ -3,6 +3,8 @@
 #include "forms/form_widget.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
+#include <QScreen>
 
 namespace quarvel {
 
@@ -20,15 +22,15 @@ void Form::load() {
     tag_.clear();
     widget_ = new FormWidget(*this, design_);
     build(*widget_);
+    widget_->makeRoomForMenuBar();
     Form_Load();
 }
 
 void Form::show() {
     if (!widget_) load();
     if (!widget_) return; // a handler that ran while the texts were set has unloaded it again
-    widget_->show();
-    widget_->raise();
-    widget_->activateWindow();
+    widget_->bringBack();
+    bringToForeground();
 }
 
 void Form::hide() {
@@ -37,6 +39,7 @@ void Form::hide() {
 
 void Form::unload() {
     if (!widget_) return;
+    Form_Unload();
     FormWidget* const old = widget_;
     widget_.clear();
     forgetControls();
@@ -79,6 +82,54 @@ QWidget* Form::window() const { return widget_; }
 
 void Form::centreOn(const QRect& screen) {
     if (widget_) widget_->centreOn(screen);
+}
+
+void Form::keepOnTop() {
+    if (widget_) widget_->setWindowFlag(Qt::WindowStaysOnTopHint);
+}
+
+void Form::setNormalState() {
+    if (widget_) widget_->setNormalState();
+}
+
+void Form::setMinimisedState() {
+    if (widget_) widget_->setMinimisedState();
+}
+
+void Form::showInTaskBar() {
+    if (widget_) widget_->showInTaskBar();
+}
+
+void Form::bringToForeground() {
+    if (!widget_ || !widget_->isVisible()) return;
+    widget_->raise();
+    widget_->activateWindow();
+}
+
+double Form::innerWidth() const { return widget_ ? widget_->inside().width() * design_.scale.perPixelX : 0; }
+
+double Form::innerHeight() const {
+    return widget_ ? widget_->inside().height() * design_.scale.perPixelY : 0;
+}
+
+bool Form::isMinimised() const { return widget_ && widget_->isMinimisedState(); }
+
+void Form::suspendDrawing() {
+    if (widget_) widget_->setUpdatesEnabled(false);
+}
+
+void Form::resumeDrawing() {
+    if (widget_) widget_->setUpdatesEnabled(true);
+}
+
+double Form::screenWidth() const { return QGuiApplication::primaryScreen()->size().width() * twipsPerPixel; }
+
+double Form::screenHeight() const {
+    return QGuiApplication::primaryScreen()->size().height() * twipsPerPixel;
+}
+
+void Form::setOuterMeasure(Measure which, double twips) {
+    if (widget_) widget_->setOuterMeasure(which, twips);
 }
 
 Form::OwnBox::OwnBox(Form& form) : widget_(form.widget_) {

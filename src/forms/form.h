@@ -1,7 +1,7 @@
 #pragma once
 
 #include "forms/container.h"
-#include "forms/core/control.h"
+#include "forms/core/resizable_window.h"
 #include "forms/windows.h"
 
 #include <QColor>
@@ -21,6 +21,7 @@ enum class UnloadReason {
 
 enum class Closing { GoAhead, Cancel };
 enum class Border { Fixed, Sizable };
+enum class Menus { PopUp, Bar }; ///< Bar: the top-level menus are shown above the window's inside
 
 /// What a window is before its first loading.
 struct FormDesign {
@@ -31,11 +32,12 @@ struct FormDesign {
     ScaleUnit scale{};
     QColor background{};
     Border border = Border::Fixed;
+    Menus menus = Menus::PopUp;
 };
 
 /// A window that outlives its widgets: loading builds them, unloading destroys them, and what the window
 /// keeps in its own fields survives. A subclass declares its controls and wires them in build().
-class Form : public ControlWindow {
+class Form : public ResizableWindow {
 public:
     Form(const FormDesign& design, Windows& windows);
     ~Form() override;
@@ -57,6 +59,15 @@ public:
     void processPendingMessages() override;
     [[nodiscard]] bool isLoaded() const override;
     [[nodiscard]] int loading() const override { return loading_; }
+
+    [[nodiscard]] double innerWidth() const override;
+    [[nodiscard]] double innerHeight() const override;
+    [[nodiscard]] bool isMinimised() const override;
+    void suspendDrawing() override;
+    void resumeDrawing() override;
+    [[nodiscard]] double screenWidth() const override;
+    [[nodiscard]] double screenHeight() const override;
+    void setOuterMeasure(Measure which, double twips) override;
 
     /// The window on the screen; none while it is not loaded.
     [[nodiscard]] QWidget* window() const;
@@ -85,9 +96,25 @@ protected:
     virtual void Form_Load() {}
     virtual void Form_Activate() {}
     virtual Closing Form_QueryUnload(UnloadReason /*reason*/) { return Closing::GoAhead; }
+    /// The window is about to be unloaded; its controls are still there.
+    virtual void Form_Unload() {}
+    /// The window's size has changed; being minimised and coming back from that count as such.
+    virtual void Form_Resize() {}
+    /// The pointer moved over a part of the window's inside that no control covers; (x, y) in the window's
+    /// scale unit from the inside's top left corner.
+    virtual void Form_MouseMove(int /*button*/, int /*shift*/, float /*x*/, float /*y*/) {}
 
     /// Puts the window, frame included, in the middle of a screen (logical pixels).
     void centreOn(const QRect& screen);
+    /// Keeps the window above all others. Comes before its first showing: later it would be made anew.
+    void keepOnTop();
+    /// Neither minimised nor maximised any more. A hidden window stays hidden, and is so when it is shown.
+    void setNormalState();
+    void setMinimisedState();
+    /// Shows a hidden window as a minimised one.
+    void showInTaskBar();
+    /// Raises the window and gives it the keyboard; one that is hidden stays so.
+    void bringToForeground();
     [[nodiscard]] Windows& windows() const { return windows_; }
 
 private:

@@ -4,14 +4,32 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QMenuBar>
+#include <QMouseEvent>
 #include <QPalette>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 namespace quarvel {
 namespace {
 
 int pixels(double twips) { return static_cast<int>(twips / twipsPerPixel); }
+
+/// What the controls lie in: all of the window, or the part of it below its menu bar.
+QWidget& insideOf(QWidget& window, const FormDesign& design) {
+    return design.menus == Menus::Bar ? *new QWidget(&window) : window;
+}
+
+int buttonCode(Qt::MouseButtons buttons) {
+    return (buttons & Qt::LeftButton ? 1 : 0) | (buttons & Qt::RightButton ? 2 : 0) |
+           (buttons & Qt::MiddleButton ? 4 : 0);
+}
+
+int shiftCode(Qt::KeyboardModifiers modifiers) {
+    return (modifiers & Qt::ShiftModifier ? 1 : 0) | (modifiers & Qt::ControlModifier ? 2 : 0) |
+           (modifiers & Qt::AltModifier ? 4 : 0);
+}
 
 /// The top left corner of a window in the middle of a screen; on a screen smaller than the window, the
 /// screen's own, so that the title bar can be reached.
@@ -23,7 +41,7 @@ QPoint centredOn(const QRect& screen, const QSize& window) {
 } // namespace
 
 FormWidget::FormWidget(Form& form, const FormDesign& design)
-    : Container(*this, design.scale, list), form_(&form) {
+    : Container(insideOf(*this, design), design.scale, list), form_(&form) {
     setObjectName(QString::fromLatin1(design.name));
     setWindowTitle(QString::fromUtf16(design.caption));
     if (design.background.isValid()) setPalette(QPalette(colour::face, design.background));
@@ -32,6 +50,13 @@ FormWidget::FormWidget(Form& form, const FormDesign& design)
         setFixedSize(client);
     else
         resize(client);
+    inside().setMouseTracking(true);
+    if (design.menus == Menus::Bar) {
+        menuBar_ = new QMenuBar(this);
+        menuBar_->setNativeMenuBar(false);
+        menuBar_->setPalette(QGuiApplication::palette()); // not the colours of the window's inside
+        menuBar_->setAutoFillBackground(true);
+    }
     // Another program in between makes the next activation one from outside, whatever went before it.
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state != Qt::ApplicationActive && ownBoxes_ == 0) leftForOwnBox_ = false;
@@ -81,6 +106,81 @@ void FormWidget::moveEvent(QMoveEvent* event) {
 void FormWidget::centreOn(const QRect& screen) {
     centreOn_ = screen;
     move(centredOn(screen, size()));
+}
+
+void FormWidget::makeRoomForMenuBar() {
+    if (menuBar_ != nullptr) resize(width(), height() + menuBar_->sizeHint().height());
+}
+
+void FormWidget::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (menuBar_ != nullptr) {
+        const int bar = menuBar_->sizeHint().height();
+        menuBar_->setGeometry(0, 0, width(), bar);
+        inside().setGeometry(0, bar, width(), std::max(0, height() - bar));
+    }
+    if (form_ != nullptr) form_->Form_Resize();
+}
+
+void FormWidget::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange && isVisible())
+        becomeMinimised(windowState().testFlag(Qt::WindowMinimized));
+}
+
+void FormWidget::becomeMinimised(bool minimised) {
+    if (minimised == minimised_) return;
+    minimised_ = minimised;
+    if (form_ != nullptr) form_->Form_Resize();
+}
+
+void FormWidget::setNormalState() {
+    if (isVisible()) {
+        if ((windowState() & ~Qt::WindowActive) != Qt::WindowNoState) showNormal();
+        return;
+    }
+    // Asking the toolkit now would put the window on the screen.
+    normalWhenShown_ = true;
+    becomeMinimised(false);
+}
+
+void FormWidget::setMinimisedState() {
+    if (isVisible())
+        showMinimized();
+    else
+        becomeMinimised(true);
+}
+
+void FormWidget::showInTaskBar() {
+    normalWhenShown_ = false;
+    showMinimized();
+}
+
+void FormWidget::bringBack() {
+    if (std::exchange(normalWhenShown_, false))
+        showNormal();
+    else
+        show();
+}
+
+void FormWidget::setOuterMeasure(Measure which, double twips) {
+    const QRect outer = frameGeometry();
+    const QSize border = outer.size() - size();
+    switch (which) {
+    case Measure::Left: move(pixels(twips), outer.top()); break;
+    case Measure::Top: move(outer.left(), pixels(twips)); break;
+    case Measure::Width: resize(pixels(twips) - border.width(), height()); break;
+    case Measure::Height: resize(width(), pixels(twips) - border.height()); break;
+    }
+}
+
+void FormWidget::mouseMoveEvent(QMouseEvent* event) {
+    QWidget* const under = childAt(event->position().toPoint());
+    if (form_ == nullptr || (under != nullptr && under != &inside())) return;
+    const QPointF at = inside().mapFrom(this, event->position());
+    form_->Form_MouseMove(buttonCode(event->buttons()), shiftCode(event->modifiers()),
+                          static_cast<float>(at.x() * unit().perPixelX),
+                          static_cast<float>(at.y() * unit().perPixelY));
 }
 
 void FormWidget::centreOuterFrame() {

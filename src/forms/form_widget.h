@@ -27,7 +27,18 @@ public:
     /// The window lets go of this widget, which must not call it any more.
     void detach();
 
+    [[nodiscard]] QMenuBar* menuBar() override { return menuBar_; }
+    /// Grows by the menu bar's height, so that the inside has its designed size. Comes after the menus.
+    void makeRoomForMenuBar();
+
     void centreOn(const QRect& screen);
+    [[nodiscard]] bool isMinimisedState() const { return minimised_; }
+    void setNormalState();
+    void setMinimisedState();
+    void showInTaskBar();
+    /// Shows the window in the state that it has been given while it was hidden.
+    void bringBack();
+    void setOuterMeasure(Measure which, double twips);
     void beginOwnBox() { ++ownBoxes_; }
     void endOwnBox();
 
@@ -35,16 +46,24 @@ protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
 
 private:
     void activated();
     void centreOuterFrame();
+    void becomeMinimised(bool minimised);
 
     Form* form_;
+    QMenuBar* menuBar_ = nullptr;
     std::shared_ptr<void> kept_;
     int ownBoxes_ = 0;
     bool leftForOwnBox_ =
         false; ///< the window became inactive because of its own box and has not come back yet
+    // The toolkit's own account of a hidden window's state follows the window manager's, which forgets it.
+    bool minimised_ = false;
+    bool normalWhenShown_ = false;
     std::optional<QRect> centreOn_; ///< the screen, until the frame around the window is known
 };
 

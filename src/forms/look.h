@@ -23,6 +23,7 @@ struct Look {
 /// The colours that the windows share.
 namespace colour {
 inline constexpr QColor window{128, 128, 255};
+inline constexpr QColor title{64, 64, 160}; ///< the title bar of an active window
 inline constexpr QColor face{232, 232, 244};
 inline constexpr QColor panel{224, 224, 224};
 inline constexpr QColor results{128, 64, 64};

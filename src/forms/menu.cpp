@@ -2,13 +2,14 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QMenuBar>
 
 namespace quarvel {
 
 MenuItem::MenuItem(Container& container, const ControlSpec& spec, QMenu* menu)
     : name_(QString::fromLatin1(spec.name)), index_(spec.index), action_(new QAction(&container.inside())) {
     action_->setObjectName(controlKey(*this));
-    action_->setText(QString::fromUtf16(spec.caption));
+    MenuItem::setCaption(QString::fromUtf16(spec.caption));
     action_->setVisible(spec.shown == Shown::Yes);
     action_->setEnabled(spec.usable == Usable::Yes);
     QObject::connect(action_, &QAction::triggered, action_, [this] { clicked.raise(); });
@@ -16,10 +17,13 @@ MenuItem::MenuItem(Container& container, const ControlSpec& spec, QMenu* menu)
     container.controlList().push_back(this);
 }
 
-std::optional<QString> MenuItem::caption() const { return action_->text(); }
+std::optional<QString> MenuItem::caption() const { return caption_; }
 
 Setting MenuItem::setCaption(const QString& text) {
-    action_->setText(text);
+    const bool separator = text == u"-";
+    caption_ = text;
+    action_->setSeparator(separator);
+    action_->setText(separator ? QString() : text);
     return Setting::Done;
 }
 
@@ -42,6 +46,7 @@ bool MenuItem::isUsable() const { return action_->isEnabled(); }
 Menu::Menu(Container& container, const ControlSpec& spec)
     : MenuItem(container, spec, nullptr), menu_(new QMenu(&container.inside())) {
     action().setMenu(menu_);
+    if (QMenuBar* bar = container.menuBar()) bar->addAction(&action());
 }
 
 ServiceControl::ServiceControl(Container& container, const ControlSpec& spec)

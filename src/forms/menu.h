@@ -9,7 +9,8 @@ class QMenu;
 
 namespace quarvel {
 
-/// A menu or a menu item: a control with a caption and a tag and without measures.
+/// A menu or a menu item: a control with a caption and a tag and without measures. The caption "-" makes it a
+/// separator.
 class MenuItem : public Control {
 public:
     MenuItem(Container& container, const ControlSpec& spec, QMenu* menu);
@@ -33,10 +34,12 @@ private:
     QString name_;
     std::optional<int> index_;
     QString tag_;
+    QString caption_; ///< the action of a separator has no text: it would be drawn beside the line
     QAction* action_;
 };
 
-/// A top-level menu. The items are added by making them with menu().
+/// A top-level menu, in the window's menu bar when it has one. The items are added by making them with
+/// menu().
 class Menu : public MenuItem {
 public:
     Menu(Container& container, const ControlSpec& spec);

@@ -19,8 +19,6 @@ public:
 
     /// Shows a window, loading it first when it is not loaded.
     virtual void show(WindowName name) = 0;
-    /// Whether the program has this window.
-    [[nodiscard]] virtual bool has(WindowName name) const = 0;
     /// The windows that are loaded now, in the order in which they were loaded.
     [[nodiscard]] virtual std::vector<Form*> loaded() const = 0;
     /// A window has been unloaded; without another loaded one the program ends.

@@ -11,15 +11,24 @@ Program::Program(const QString& programFolder, const Services& services, Present
     : paths_(programFolder), language_(programFolder, state_.MLSCurrentLanguage),
       prompts_(language_, services.messageBoxes), toolkitTexts_(language_), services_(services),
       main_({state_, paths_, language_, prompts_, services_, presenter, *this}),
-      view_({state_, paths_, language_, prompts_, services_, *this}) {
+      view_({state_, paths_, language_, prompts_, services_, *this}),
+      companion_({state_, paths_, language_, prompts_, services_, *this}) {
     QCoreApplication::installTranslator(&toolkitTexts_);
 }
 
 void Program::show(WindowName name) {
-    if (!has(name)) return;
-    Form& form = name == WindowName::frmMain ? static_cast<Form&>(main_) : view_;
+    Form& form = window(name);
     if (!form.isLoaded()) inLoadingOrder_.push_back(&form);
     form.show();
+}
+
+Form& Program::window(WindowName name) {
+    switch (name) {
+    case WindowName::frmMain: return main_;
+    case WindowName::frmView: return view_;
+    case WindowName::frmFS9: break;
+    }
+    return companion_;
 }
 
 std::vector<Form*> Program::loaded() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "archive/paths.h"
+#include "companion/frmFS9.h"
 #include "language/language_support.h"
 #include "platform/services.h"
 #include "presenter/presenter.h"
@@ -23,15 +24,17 @@ public:
     Program(const QString& programFolder, const Services& services, Presenter& presenter);
 
     void show(WindowName name) override;
-    [[nodiscard]] bool has(WindowName name) const override { return name != WindowName::frmFS9; }
     [[nodiscard]] std::vector<Form*> loaded() const override;
     void unloaded(Form& form) override;
 
     [[nodiscard]] ProcessState& state() { return state_; }
     [[nodiscard]] frmMain& mainWindow() { return main_; }
     [[nodiscard]] frmView& viewWindow() { return view_; }
+    [[nodiscard]] frmFS9& companionWindow() { return companion_; }
 
 private:
+    [[nodiscard]] Form& window(WindowName name);
+
     ProcessState state_;
     ArchivePaths paths_;
     modLanguageSupport language_;
@@ -40,6 +43,7 @@ private:
     Services services_;
     frmMain main_;
     frmView view_;
+    frmFS9 companion_;
     std::vector<Form*> inLoadingOrder_;
     QObject life_; ///< what is still to be done goes with the program
 };

@@ -111,7 +111,6 @@ void frmView::Command3_Click() {
 }
 
 void frmView::Command4_Click() {
-    if (!windows().has(WindowName::frmFS9)) return; // hiding the only window would lose it
     hide();
     windows().show(WindowName::frmFS9);
 }

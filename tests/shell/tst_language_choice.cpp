@@ -17,7 +17,8 @@ QStringList keysOf(const ControlWindow& window) {
     QStringList keys{window.windowName() + u".Caption"_s};
     for (const Control* control : window.controls()) {
         if (control->name() == u"mnuLanguage"_s) continue; // a key would rename the language itself
-        if (!control->caption().value_or(QString()).trimmed().isEmpty())
+        const QString caption = control->caption().value_or(QString()).trimmed();
+        if (!caption.isEmpty() && caption != u"-") // the caption of a menu's separator
             keys.append(controlKey(*control) + u".Caption"_s);
         if (!control->toolTip().value_or(QString()).isEmpty())
             keys.append(controlKey(*control) + u".ToolTipText"_s);
@@ -136,11 +137,14 @@ private Q_SLOTS:
         const QByteArrayList shipped = {test.read(u"Italiano.lng"_s), test.read(u"English.lng"_s)};
         QFile::remove(test.path(u"Italiano.lng"_s)); // the windows are asked for their designed texts
         test.addAirport(u"LIRF"_s);
+        test.addChart(u"aeroporti/LIRF/Sid/kenn1.gif"_s, {30, 40});
         test.start();
         QStringList needed;
         for (const QString& key : keysOf(test.program().mainWindow())) needed.append(u"frmMain/"_s + key);
         test.openViewer(u"LIRF"_s);
         for (const QString& key : keysOf(test.program().viewWindow())) needed.append(u"frmView/"_s + key);
+        test.openCompanion();
+        for (const QString& key : keysOf(test.program().companionWindow())) needed.append(u"frmFS9/"_s + key);
         for (const QString& number : messageNumbers()) needed.append(u"Strings/"_s + number);
 
         needed.sort();

@@ -68,6 +68,22 @@ public:
     void beep() override { ++beeps; }
 };
 
+/// A notification area that keeps its icons' tips and hands on what the test does with the mouse.
+class NotedIcons : public NotificationArea {
+public:
+    bool there = true;
+    QList<Record> icons;
+    IconWindow* window = nullptr;
+    void notifyIcon(NotifyAction action, const Record& record, IconWindow& of) override {
+        window = &of;
+        if (action == NotifyAction::Add)
+            icons.append(record);
+        else
+            icons.removeOne(record);
+    }
+    bool isThere() const override { return there; }
+};
+
 class NotedPresenter : public Presenter {
 public:
     QStringList loaded;

@@ -3,6 +3,7 @@
 #include "archive/record_file.h"
 #include "pictures/gif_maker.h"
 
+#include <QAction>
 #include <QDir>
 #include <QFile>
 #include <QListView>
@@ -49,7 +50,7 @@ void TestProgram::addChart(const QString& relative, QSize size) const {
 
 void TestProgram::start() {
     program_ = std::make_unique<Program>(
-        folder_.path(), Services{boxes, sounds, printer, urls, screen, end, beeper}, presenter);
+        folder_.path(), Services{boxes, sounds, printer, urls, screen, end, beeper, icons}, presenter);
     program_->show(WindowName::frmMain);
     if (!QTest::qWaitForWindowActive(mainWindow())) qFatal("the main window does not become active");
 }
@@ -90,6 +91,19 @@ void TestProgram::openViewer(const QString& airport) {
     openAirport(airport);
     click(mainWindow(), u"cmdGrafica"_s);
     if (!QTest::qWaitForWindowActive(viewWindow())) qFatal("the viewer does not become active");
+}
+
+void TestProgram::openCompanion() const {
+    click(viewWindow(), u"Option1(0)"_s);
+    clickRow(viewWindow(), u"List1"_s, 0);
+    click(viewWindow(), u"Command4"_s);
+    if (!QTest::qWaitForWindowActive(companionWindow())) qFatal("the companion does not become active");
+}
+
+void TestProgram::chooseItem(QWidget* window, const QString& item) {
+    auto* action = window->findChild<QAction*>(item);
+    if (action == nullptr || !action->isEnabled()) qFatal("item %s cannot be chosen", qPrintable(item));
+    action->trigger();
 }
 
 } // namespace quarvel

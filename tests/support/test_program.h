@@ -31,9 +31,10 @@ public:
     void start();
     [[nodiscard]] Program& program() { return *program_; }
 
-    /// The main window or the viewer; null while it is not loaded.
+    /// The windows; null while it is not loaded.
     [[nodiscard]] QWidget* mainWindow() const { return program_->mainWindow().window(); }
     [[nodiscard]] QWidget* viewWindow() const { return program_->viewWindow().window(); }
+    [[nodiscard]] QWidget* companionWindow() const { return program_->companionWindow().window(); }
 
     /// A control of a window by its name, such as txtRwy(38).
     template <class Widget = QWidget>
@@ -55,6 +56,10 @@ public:
     void startWith(const QString& airport);
     /// Opens an airport from the list and goes to the viewer.
     void openViewer(const QString& airport);
+    /// Chooses the first departure in the viewer and links it to the companion window.
+    void openCompanion() const;
+    /// Chooses an item of a window's menus by its name.
+    static void chooseItem(QWidget* window, const QString& item);
 
     ScriptedMessageBoxes boxes;
     SilentSounds sounds;
@@ -63,6 +68,7 @@ public:
     FixedScreen screen;
     NotedEnd end;
     CountedBeeps beeper;
+    NotedIcons icons;
     NotedPresenter presenter;
 
 private:

@@ -1,0 +1,84 @@
+#include "companion/frmFS9.h"
+
+#include "text/rounding.h"
+
+#include <QTimer>
+
+namespace quarvel {
+namespace {
+
+constexpr FormDesign design{.name = "frmFS9",
+                            .caption = u"TASTO SX ZOOM IN - TASTO DX ZOOM OUT",
+                            .clientWidth = 5760,
+                            .clientHeight = 6465,
+                            .scale = scalePixels,
+                            .background = colour::title,
+                            .border = Border::Sizable,
+                            .menus = Menus::Bar};
+
+} // namespace
+
+frmFS9::frmFS9(const frmFS9Needs& needs)
+    : FormOf(design, needs.windows), state_(needs.state), paths_(needs.paths), language_(needs.language),
+      prompts_(needs.prompts), services_(needs.services) {}
+
+void frmFS9::wire() {
+    c->Image1.mouseDown.calls(this, &frmFS9::Image1_MouseDown);
+    c->HScroll1.scrolled.calls(this, &frmFS9::HScroll1_Scroll);
+    c->HScroll1.changed.calls(this, &frmFS9::HScroll1_Change);
+    c->VScroll1.scrolled.calls(this, &frmFS9::VScroll1_Scroll);
+    c->VScroll1.changed.calls(this, &frmFS9::VScroll1_Change);
+    c->mnuAeroporto.clicked.calls(this, &frmFS9::mnuAeroporto_Click);
+    c->mnuNuovaproc.clicked.calls(this, &frmFS9::mnuNuovaproc_Click);
+    c->mnuProcScelta.clicked.calls(this, &frmFS9::mnuProcScelta_Click);
+    c->mnuRipris.clicked.calls(this, &frmFS9::mnuRipris_Click);
+    c->mPopExit.clicked.calls(this, &frmFS9::mPopExit_Click);
+}
+
+void frmFS9::forgetControls() {
+    chart_.reset();
+    FormOf::forgetControls();
+}
+
+void frmFS9::Form_Load() {
+    Resizer = std::make_unique<clsResize>();
+    Resizer->setSourceForm(this);
+    language_.MLSApplyLanguage(*this);
+    if (c == nullptr) return;
+    TwipsPerPixelX = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelX()));
+    TwipsPerPixelY = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelY()));
+    ZoomLevel = 0;
+    chart_.emplace(c->Picture1, c->Image1, c->HScroll1, c->VScroll1,
+                   TwipsPerPixel{TwipsPerPixelX, TwipsPerPixelY}, ZoomLevel);
+    centreOn(services_.screen.whole());
+    addIcon();
+    keepOnTop();
+    state_.CompanionMode = showsChart;
+    LoadCompanionPicture();
+}
+
+void frmFS9::Form_Resize() {
+    if (Resizer) Resizer->ResizeControls();
+    if (!isMinimised()) return;
+    c->mnuRipris.setUsable(Usable::Yes);
+    // Without anybody to show the icon a hidden window would be lost: it stays in the task bar. The toolkit
+    // is still busy with minimising the window and hides it only afterwards.
+    if (services_.notificationArea.isThere())
+        QTimer::singleShot(0, window(), [this] {
+            if (isMinimised()) hide();
+        });
+}
+
+Closing frmFS9::Form_QueryUnload(UnloadReason reason) {
+    if (reason == UnloadReason::ControlMenu) return Closing::Cancel;
+    removeIcon();
+    return Closing::GoAhead;
+}
+
+void frmFS9::Form_Unload() {
+    Resizer.reset();
+    setMinimisedState();
+    hide();
+}
+
+} // namespace quarvel

@@ -174,6 +174,18 @@ class Shown:
             if thing.role == role and (name is None or thing.name == name)
         ]
 
+    def menu_items(self, name):
+        """The items of this name in open menus. A menu belongs to its window, also when only the menu is showing."""
+        self._application.forget()
+        open_things = [self._application]
+        found = []
+        while open_things:
+            thing = open_things.pop()
+            open_things += thing.children()
+            if thing.role == "menu item" and thing.name == name and thing.showing:
+                found.append(thing)
+        return found
+
     def windows(self):
         self._application.forget()
         return [window for window in self._application.children() if window.showing]

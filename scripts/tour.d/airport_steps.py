@@ -80,6 +80,15 @@ def switch_language(stage):
         expect("language in LangSetting.ini", lambda: chosen_language(stage.program.folder), "Italiano")
 
 
+def open_again(stage):
+    with stage.step("started once more, the airport's charts are two clicks away"):
+        stage.program.start()
+        stage.main.search(AIRPORT.lower())
+        stage.main.open_from_list(AIRPORT)
+        stage.main.choose("cmdGrafica")
+        stage.viewer.expect_shown(AIRPORT)
+
+
 def close(stage):
     with stage.step("the main window's close box ends the program"):
         stage.main.close_box()

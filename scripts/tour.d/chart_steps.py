@@ -48,6 +48,14 @@ def read_a_chart(stage):
     return chart
 
 
+def choose_first(stage):
+    """Chooses the first departure, and gives its name."""
+    chart = stage.airport.charts("Sid")[0]
+    stage.viewer.family(0)
+    stage.viewer.choose_chart(chart)
+    return chart
+
+
 def zoom(stage, chart):
     viewer = stage.viewer
     natural = natural_size(stage.airport.chart("Sid", chart))

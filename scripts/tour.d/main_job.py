@@ -1,5 +1,5 @@
 """The main job, done from outside: find an airport, read its data, work with its charts, print, switch language;
-then enter a new airport, and find it after a restart.
+keep a chart above the simulator; then enter a new airport, find it after a restart, and leave from the icon.
 
 Usage: main_job.py EXECUTABLE DATA SCRATCH PICTURES      (in the desktop of scripts/with-desktop)
 """
@@ -8,6 +8,7 @@ import sys
 
 import airport_steps
 import chart_steps
+import companion_steps
 import entry_steps
 import note_steps
 from stage import Stage
@@ -20,14 +21,22 @@ def main(stage):
     chart = chart_steps.read_a_chart(stage)
     chart_steps.zoom(stage, chart)
     chart_steps.pan(stage, chart)
-    note_steps.write_a_note(stage, chart)
+    note = note_steps.write_a_note(stage, chart)
     note_steps.print_the_page(stage)
+    companion_steps.link(stage, note)
+    companion_steps.without_notification_area(stage)
+    companion_steps.zoom_and_resize(stage, note)
+    companion_steps.minimise_to_the_icon(stage, note)
+    companion_steps.other_notification_areas(stage)
+    companion_steps.back_to_the_viewer(stage, note)
     airport_steps.go_back(stage)
     airport_steps.switch_language(stage)
     airport_steps.close(stage)
     entry_steps.type_a_new_airport(stage)
     entry_steps.save_it(stage)
     entry_steps.find_it_again(stage)
+    airport_steps.open_again(stage)
+    companion_steps.exit_from_the_icon(stage, chart_steps.choose_first(stage))
     stage.steps.done()
 
 
@@ -36,4 +45,4 @@ if __name__ == "__main__":
     try:
         main(the_stage)
     finally:
-        the_stage.program.stop()
+        the_stage.stop()

@@ -14,6 +14,7 @@ SAVED = "DOPO IL DECOLLO PRUA 250\nPOI A SINISTRA, VELOCITÀ RIDOTTA"  # saving 
 
 
 def write_a_note(stage, other_chart):
+    """Gives the chart that it was written for, which is on show."""
     viewer = stage.viewer
     charts = stage.airport.charts("Sid")
     chart = next(name for name in charts if not stage.airport.note("Sid", "ROTTA", name))
@@ -42,6 +43,7 @@ def write_a_note(stage, other_chart):
         viewer.choose_chart(chart)
         expect("route box", lambda: viewer.note_box("ROTTA").text, SAVED)
         stage.keep("08-note")
+    return chart
 
 
 def files(stage, chart):

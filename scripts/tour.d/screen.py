@@ -61,6 +61,34 @@ def _borders():
     return [int(number) for number in re.findall(r"\d+", answer.partition("=")[2])] or [0, 0, 0, 0]
 
 
+def active_states():
+    """What the window manager says of the active window: _NET_WM_STATE_ABOVE and its like."""
+    answer = _run("xprop", "-id", _run("xdotool", "getactivewindow").strip(), "_NET_WM_STATE")
+    return answer.partition("=")[2].replace(",", " ").split()
+
+
+def minimise():
+    """As the button in the title bar does."""
+    _run("xdotool", "getactivewindow", "windowminimize")
+
+
+def resize_to(width, height):
+    """As dragging a corner of the active window does; without its borders, in the program's pixels."""
+    _run("xdotool", "getactivewindow", "windowsize", round(width * SCALE), round(height * SCALE))
+
+
+def activate(name):
+    """As a click on a window's entry in the task bar does."""
+    _run("wmctrl", "-a", name)
+
+
+def window_states(name):
+    """The state of each window of this title that has an entry in the task bar: Normal or Iconic."""
+    found = subprocess.run(["xdotool", "search", "--name", f"^{re.escape(name)}$"], capture_output=True, text=True)
+    states = [_run("xprop", "-id", window, "WM_STATE") for window in found.stdout.split()]
+    return re.findall(r"window state: (Normal|Iconic)", "".join(states))
+
+
 class Eyes:
     """Takes pictures of the screen; `scratch` is where those go that are only looked at."""
 
@@ -78,6 +106,11 @@ class Eyes:
         crop = f"{box.width * SCALE}x{box.height * SCALE}+{box.x * SCALE}+{box.y * SCALE}"
         _run("convert", self.whole(), "-crop", crop, "+repage", path)
         return path
+
+    def corner(self, path):
+        """The lower right corner of the screen, where the notification area is, as a small picture file."""
+        cut = f"{420 * SCALE}x{260 * SCALE}+0+0"
+        _run("convert", self.still(), "-gravity", "SouthEast", "-crop", cut, "+repage", "-strip", f"png:{path}")
 
     def still(self):
         """A picture of the screen once nothing moves on it."""

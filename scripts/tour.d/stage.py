@@ -6,7 +6,8 @@ from disk import Airport
 from program import Program
 from screen import Eyes, difference
 from steps import Steps
-from windows import MainWindow, Viewer
+from tray import BusTray, Tray
+from windows import Companion, MainWindow, Viewer
 
 AIRPORT = "LIRF"
 
@@ -22,10 +23,22 @@ class Stage:
         self.english = self.program.language("English")
         self.main = MainWindow(self.program, self.italian)
         self.viewer = Viewer(self.program, self.italian)
+        self.companion = Companion(self.program, self.italian)
+        self.tray = Tray()
+        self._hosts = []
         self.steps = Steps(self.program, self.eyes)
 
     def step(self, claim):
         return self.steps.step(claim)
+
+    def bus_tray(self):
+        self._hosts.append(BusTray())
+        return self._hosts[-1]
+
+    def stop(self):
+        self.program.stop()
+        for notification_area in (self.tray, *self._hosts):
+            notification_area.stop()
 
     def keep(self, name):
         """A picture of the window for the manual."""

@@ -1,14 +1,15 @@
-"""The two windows of the main job, each with what is found and done in it, in one language."""
+"""The windows of the main job, each with what is found and done in it, in one language."""
 
 from accessible import ONE, Box, Judge, Unexpected, expect
 from disk import size_of
-from screen import click, press, title, write
+from screen import activate, click, press, title, window_states, write
 
 # Places in the windows, in twips as the program measures them; 15 of them are a pixel.
 PICTURE_PLACE = (5400, 0, 4935, 8895)
 FRAME_PLACE = (5400, -240, 5955, 9165)
 LARGER, SMALLER = 1.25, 0.75  # a zoom step makes the chart so many times as large
 NOTES = {"ROTTA": "0005", "DECOLLO": "0003", "ALTITUDINE": "0006", "MISSED": "0009"}
+ICON_HEIGHT = 32  # pixels, at most, in a notification area
 COLUMNS = ("Label6(0)", "Label6(1)", "Label6(2)", "Label7", "Label8")
 
 
@@ -193,6 +194,63 @@ class Viewer(Window):
         """The upper left corner of the chart frame, which lies a little above the window."""
         window = self.program.window()
         return window.x + FRAME_PLACE[0] / 15, window.y + FRAME_PLACE[1] / 15
+
+
+class Companion(Window):
+    name = "frmFS9"
+
+    def title(self):
+        return self.caption("frmFS9")
+
+    def windows(self):
+        """The titles of the program's windows; one of the icon's size is the icon's."""
+        return [window.name for window in self.shown.windows() if window.box.height > ICON_HEIGHT]
+
+    def expect_shown(self):
+        expect("title bar", title, self.title())
+        expect("windows on the screen", lambda: self.windows(), [self.title()])
+
+    def expect_hidden(self):
+        expect("windows on the screen", lambda: self.windows(), [])
+        expect("states of the window in the task bar", lambda: window_states(self.title()), [])
+
+    def minimised(self):
+        return window_states(self.title()) == ["Iconic"]
+
+    def activate_from_task_bar(self):
+        activate(self.title())
+
+    def menu_bar(self):
+        return self.shown.one("menu bar", "").box
+
+    def inside(self):
+        window, bar = self.program.window(), self.menu_bar()
+        return Box(window.x, bar.bottom, window.width, window.bottom - bar.bottom)
+
+    def bars(self):
+        bars = self.shown.all("scroll bar")
+        return [next(bar for bar in bars if (bar.box.width > bar.box.height) == across) for across in (True, False)]
+
+    def expect_size(self, picture, wanted):
+        """The picture has this width and height, to the pixel that rounding leaves open."""
+        def size():
+            box = self.picture_named(picture).box
+            return box.width, box.height
+
+        def close(seen):
+            return all(abs(now - side) <= 1 for now, side in zip(seen, wanted))
+
+        expect(f"size of picture {picture!r}", size, Judge(f"{wanted[0]:.1f} x {wanted[1]:.1f} pixels", close))
+
+    def open_menu(self):
+        press(f"alt+{self.language.key(self.name, 'mApps')}")
+
+    def item(self, control):
+        name = self.caption(control)
+        return expect(f"menu item {name!r}", lambda: self.shown.menu_items(name), ONE)[0]
+
+    def choose_item(self, control):
+        click(self.item(control))
 
 
 def natural_size(gif):

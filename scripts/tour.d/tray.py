@@ -1,0 +1,84 @@
+"""Notification areas: one that takes icons' windows in, and one that is told of icons over the session bus."""
+
+import re
+import select
+import subprocess
+import sys
+from pathlib import Path
+
+from accessible import Box, expect
+from screen import SCALE, click_at, move_to
+
+PANEL = ("--edge", "bottom", "--align", "right", "--widthtype", "request", "--height", "24", "--SetDockType", "true",
+         "--expand", "true", "--transparent", "false")
+
+
+class Tray:
+    """A notification area of the older kind, in the lower right corner of the screen."""
+
+    def __init__(self):
+        self._process = None
+
+    def start(self):
+        self._process = subprocess.Popen(["trayer", *PANEL], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def stop(self):
+        if self._process is not None:
+            self._process.kill()
+            self._process.wait()
+            self._process = None
+
+    def icons(self):
+        """The boxes of the program's icons, in its own pixels."""
+        found = subprocess.run(["xwininfo", "-root", "-tree"], check=True, capture_output=True, text=True).stdout
+        placed = re.findall(r'\("quarvel" "[Qq]uarvel"\)\s+(\d+)x(\d+)\S+\s+\+(-?\d+)\+(-?\d+)', found)
+        boxes = [Box(*(int(number) / SCALE for number in (x, y, w, h))) for w, h, x, y in placed]
+        return [box for box in boxes if box.width <= 32 and box.y > self._panel_top()]
+
+    @staticmethod
+    def _panel_top():
+        screen = subprocess.run(["xdotool", "getdisplaygeometry"], check=True, capture_output=True, text=True).stdout
+        return int(screen.split()[1]) / SCALE - 40
+
+    def expect_icons(self, count):
+        expect("icons in the notification area", lambda: len(self.icons()), count)
+
+    def click(self, button=1):
+        """A click on the one icon."""
+        self.expect_icons(1)
+        box = self.icons()[0]
+        click_at(box.x + box.width / 2, box.y + box.height / 2, button)
+
+    def point_at(self):
+        self.expect_icons(1)
+        box = self.icons()[0]
+        move_to(box.x + box.width / 2, box.y + box.height / 2)
+
+
+class BusTray:
+    """A notification area of the newer kind (status_notifier_host.py), as a process of its own."""
+
+    def __init__(self):
+        host = Path(__file__).with_name("status_notifier_host.py")
+        self._process = subprocess.Popen([sys.executable, "-B", host], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                         text=True, bufsize=1)
+        self._tips = []
+
+    def expect_icon(self, tip):
+        """Waits until an icon has come, with this tip."""
+        def told():
+            ready, _, _ = select.select([self._process.stdout], [], [], 0)
+            if ready:
+                self._tips.append(self._process.stdout.readline().strip())
+            return self._tips[-1:]
+
+        expect("tip of the icon", told, [tip])
+
+    def click(self, button=1):
+        """As the host tells an icon of a click: 1 left, 2 middle, 3 right."""
+        self._process.stdin.write(f"{button}\n")
+        self._process.stdin.flush()
+
+    def stop(self):
+        self._process.kill()
+        self._process.wait()

@@ -9,9 +9,10 @@ from pathlib import Path
 from accessible import expect
 from disk import Airport
 from program import Program
-from screen import Eyes, click, click_at, press
+from screen import Eyes, click, click_at, minimise, press
 from stage import AIRPORT
-from windows import MainWindow, Viewer
+from tray import Tray
+from windows import Companion, MainWindow, Viewer
 
 UNKNOWN = "zzzz"
 
@@ -23,6 +24,7 @@ class Look:
         self.airport = Airport(self.program.folder, AIRPORT)
         self.main = MainWindow(self.program, self.language)
         self.viewer = Viewer(self.program, self.language)
+        self.companion = Companion(self.program, self.language)
         self.eyes = Eyes(scratch)
         self.pictures = Path(pictures)
         self.count = 0
@@ -77,7 +79,38 @@ class Look:
         self.viewer.message_box("0027", "0028")
         self.keep("save")
         self.viewer.answer("0027", "0028", "0103")
+        self.companion_view()
         self.viewer.choose("Command3")
+
+    def companion_view(self):
+        companion, tray = self.companion, Tray()
+        tray.start()
+        try:
+            self.viewer.choose("Command4")
+            companion.expect_shown()
+            self.keep("companion")
+            companion.open_menu()
+            companion.item("mPopExit")
+            self.keep("companion-menu")
+            companion.choose_item("mPopExit")
+            companion.message_box("0025", "0026")
+            self.keep("companion-exit")
+            companion.answer("0025", "0026", "0105")
+            tray.expect_icons(1)
+            self.eyes.corner(self.pictures / "icon.png")
+            minimise()
+            companion.expect_hidden()
+            tray.click(3)
+            companion.item("mPopExit")
+            self.eyes.corner(self.pictures / "icon-menu.png")
+            companion.choose_item("mnuAeroporto")
+            companion.expect_shown()
+            self.keep("companion-airport")
+            companion.open_menu()
+            companion.choose_item("mnuNuovaproc")
+            self.viewer.expect_shown(AIRPORT)
+        finally:
+            tray.stop()
 
     def choose(self, family, option):
         """The chart of a family that has the most to read."""

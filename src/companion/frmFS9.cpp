@@ -54,7 +54,7 @@ void frmFS9::Form_Load() {
     addIcon();
     keepOnTop();
     state_.CompanionMode = showsChart;
-    LoadCompanionPicture();
+    recordedWithoutPicture_ = LoadCompanionPicture() == Loaded::No;
 }
 
 void frmFS9::Form_Resize() {

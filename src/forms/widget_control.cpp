@@ -3,11 +3,16 @@
 #include "text/rounding.h"
 
 #include <QPalette>
+#include <algorithm>
 
 namespace quarvel {
 namespace {
 
-int pixels(double units, double perPixel) { return static_cast<int>(roundHalfEven(units / perPixel)); }
+/// A chart that is zoomed again and again between resizes may outgrow what the toolkit can place.
+int pixels(double units, double perPixel) {
+    return static_cast<int>(
+        std::clamp<double>(roundHalfEven(units / perPixel), -QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+}
 
 } // namespace
 

@@ -71,7 +71,8 @@ public:
             // The toolkit keeps the mouse from windows behind a modal box, but knows nothing of the bus.
             if (QApplication::activeModalWidget() == nullptr) window.iconMouse(message);
         };
-        QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+        // What is still queued goes with the icon's face: a notification area that ends may leave some.
+        if (face_) QMetaObject::invokeMethod(face_.get(), tell, Qt::QueuedConnection);
     }
 
 private:

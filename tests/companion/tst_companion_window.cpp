@@ -67,6 +67,9 @@ private Q_SLOTS:
     void menuSwitchesBetweenChartAndPhoto() {
         const auto test = companion();
         QTest::mouseClick(image(*test), Qt::LeftButton, {}, {200, 200});
+        for (const auto& name : {u"HScroll1"_s, u"VScroll1"_s})
+            TestProgram::control<QScrollBar>(test->companionWindow(), name)->setValue(77);
+        QCOMPARE(image(*test)->pos(), QPoint(-77, -77));
         choose(*test, u"mnuAeroporto"_s);
         QCOMPARE(image(*test)->size(), photo);
         QVERIFY(!enabled(*test, u"mnuAeroporto"_s) && enabled(*test, u"mnuProcScelta"_s));
@@ -95,6 +98,8 @@ private Q_SLOTS:
         QTRY_COMPARE(without->boxes.shown.size(), 1);
         choose(*without, u"mnuAeroporto"_s);
         QCOMPARE(image(*without)->size(), photo);
+        without->companionWindow()->resize(without->companionWindow()->size() + QSize(384, 0));
+        QTRY_COMPARE(image(*without)->size(), photo.scaled(40, 30, Qt::IgnoreAspectRatio));
     }
 
     void resizingScalesFromTheFirstLayout() {

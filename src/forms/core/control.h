@@ -36,10 +36,10 @@ public:
     [[nodiscard]] virtual int tabCount() const { return 0; }
     virtual Setting setTabCaption(int tab, const QString& text);
 
-    /// A measure in the unit of the control's container; none for a menu item and its like.
+    /// A measure in the unit of the control's container; none for a menu item and its like. A line gives the
+    /// coordinates of its two ends as its four measures.
     [[nodiscard]] virtual std::optional<double> measure(Measure which) const;
     virtual Setting setMeasure(Measure which, double value);
-    [[nodiscard]] virtual bool isLine() const { return false; }
 };
 
 /// A window as the same two see it: its own texts, its inner size and its controls in the order in which they

@@ -14,7 +14,7 @@ constexpr int alphaDepth = 32;     // bits
 
 /// Replies of the X server are the receiver's to free.
 struct Free {
-    void operator()(void* reply) const { std::free(reply); } // NOLINT: xcb allocates with malloc
+    void operator()(void* reply) const { std::free(reply); }
 };
 template <typename T>
 using Reply = std::unique_ptr<T, Free>;
@@ -33,9 +33,8 @@ const xcb_screen_t& firstScreen(xcb_connection_t* connection) {
 } // namespace
 
 xcb_connection_t* x11Connection() {
-    const auto* const x11 = qGuiApp != nullptr // NOLINT: the cast is Qt's
-                                ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>()
-                                : nullptr;
+    const auto* const x11 =
+        qGuiApp != nullptr ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
     return x11 != nullptr ? x11->connection() : nullptr;
 }
 

@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QTimer>
 #include <optional>
 #include <xcb/xcb.h>
 
@@ -61,9 +62,7 @@ bool EmbeddedIcon::nativeEventFilter(const QByteArray&, void* message, qintptr*)
         if (moved.window != window_ || moved.event != window_) return false;
         const auto roots = xcb_setup_roots_iterator(xcb_get_setup(x11Connection()));
         dropped = moved.parent == roots.data->root;
-        if (!dropped)
-            QMetaObject::invokeMethod(
-                this, [this] { taken(); }, Qt::QueuedConnection);
+        if (!dropped) taken(); // at once: Qt complains when it has seen the host map the window first
     }
     if (type == XCB_DESTROY_NOTIFY)
         dropped = static_cast<const xcb_destroy_notify_event_t*>(message)->window == window_;
@@ -75,6 +74,8 @@ bool EmbeddedIcon::nativeEventFilter(const QByteArray&, void* message, qintptr*)
 
 void EmbeddedIcon::taken() {
     show();
+    // A host may paint itself anew when it has made room for the icon, and tells nobody.
+    for (const int milliseconds : {300, 1500}) QTimer::singleShot(milliseconds, this, [this] { update(); });
     events_.iconTaken();
 }
 

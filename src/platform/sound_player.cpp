@@ -1,7 +1,6 @@
 #include "platform/sound_player.h"
 
 #include "files/whole_file.h"
-#include "platform/pulse_stream.h"
 #include "platform/wave_file.h"
 
 #include <QApplication>
@@ -33,17 +32,14 @@ void playDefaultSound() {
 
 } // namespace
 
-DesktopSoundPlayer::DesktopSoundPlayer() = default;
-DesktopSoundPlayer::~DesktopSoundPlayer() = default;
-
 void DesktopSoundPlayer::play(const QString& path) {
-    playing_.reset();
+    output_.stop();
     const Result<QByteArray> file = readWholeFile(path, largestSoundBytes);
     const std::optional<WaveSound> sound = file ? readWave(file.value()) : std::nullopt;
-    if (sound)
-        playing_ = PulseStream::start(*sound);
-    else
-        playDefaultSound();
+    if (!sound) return playDefaultSound();
+    output_.begin(sound->format);
+    output_.write(sound->samples);
+    output_.end();
 }
 
 } // namespace quarvel

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "platform/pcm_output.h"
+
 #include <QString>
-#include <memory>
 
 namespace quarvel {
 
@@ -17,19 +18,13 @@ public:
     virtual void play(const QString& path) = 0;
 };
 
-class PulseStream;
-
-/// Plays through the desktop's PulseAudio-compatible sound server. Its library is looked for at the first
-/// sound and nothing is linked for it: a program that is silent most of the time need not load it at every
-/// start.
+/// Plays through the desktop's sound server.
 class DesktopSoundPlayer : public SoundPlayer {
 public:
-    DesktopSoundPlayer();
-    ~DesktopSoundPlayer() override;
     void play(const QString& path) override;
 
 private:
-    std::unique_ptr<PulseStream> playing_;
+    PcmOutput output_;
 };
 
 } // namespace quarvel

@@ -13,9 +13,9 @@ quint16 word(const QByteArray& file, qsizetype at) {
     return qFromLittleEndian<quint16>(file.constData() + at);
 }
 
-bool usable(const WaveSound& sound) {
-    return sound.sampleRate >= 1000 && sound.sampleRate <= 192000 && sound.channels >= 1 &&
-           sound.channels <= 8 && (sound.bitsPerSample == 8 || sound.bitsPerSample == 16);
+bool usable(const PcmFormat& format) {
+    return format.sampleRate >= 1000 && format.sampleRate <= 192000 && format.channels >= 1 &&
+           format.channels <= 8 && (format.bitsPerSample == 8 || format.bitsPerSample == 16);
 }
 
 } // namespace
@@ -30,17 +30,17 @@ std::optional<WaveSound> readWave(const QByteArray& file) {
         const qsizetype present = std::min(length, file.size() - begin);
         if (kind == "fmt " && present >= 16) {
             if (word(file, begin) != uncompressed) return std::nullopt;
-            sound.channels = word(file, begin + 2);
-            sound.sampleRate = static_cast<int>(
+            sound.format.channels = word(file, begin + 2);
+            sound.format.sampleRate = static_cast<int>(
                 std::min<quint32>(qFromLittleEndian<quint32>(file.constData() + begin + 4), 1000000));
-            sound.bitsPerSample = word(file, begin + 14);
+            sound.format.bitsPerSample = word(file, begin + 14);
         } else if (kind == "data") {
             sound.samples = file.mid(begin, present);
             break;
         }
         at = begin + length + length % 2; // chunks begin at even places
     }
-    if (!usable(sound) || sound.samples.isEmpty()) return std::nullopt;
+    if (!usable(sound.format) || sound.samples.isEmpty()) return std::nullopt;
     return sound;
 }
 

@@ -1,0 +1,81 @@
+#include "presenter/character/character_window.h"
+#include "presenter/character/drawing.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTest>
+#include <cmath>
+
+using namespace quarvel;
+using enum Animation;
+
+/// The longest step of any number from one pose to the other, as a part of its range.
+static double steps(const Pose& a, const Pose& b) {
+    double longest = 0;
+    for (const auto& [number, least, most] : poseNumbers)
+        longest = std::max(longest, std::abs(b.*number - a.*number) / (most - least));
+    return longest;
+}
+
+class CharacterTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theNamedAnimationsAreKnown() {
+        for (const char* name : {"Greet", "RestPose", "Decline", "Read", "ReadReturn", "Wave"})
+            QVERIFY2(animationNamed(QString::fromLatin1(name)).has_value(), name);
+        QVERIFY(animationNamed(u"ReadReturn") == ReadReturn);
+        QVERIFY(!animationNamed(u"Reading") && !animationNamed(u"greet") && !animationNamed(u""));
+    }
+
+    void animationsJoinAndMoveWithoutJumps() {
+        Stance stance = Stance::Away;
+        for (const Animation each : {Show, Greet, RestPose, Decline, Read, ReadReturn, Wave, Hide}) {
+            QCOMPARE(steps(idlePose(stance, 0), poseAt(each, 0)), 0.0);
+            for (int ms = 0; ms < durationOf(each); ms += 33) // a blink is the quickest movement
+                QVERIFY2(steps(poseAt(each, ms), poseAt(each, ms + 33)) < 0.4,
+                         qPrintable(QString::number(ms)));
+            stance = stanceAfter(each);
+            if (stance == Stance::Away) continue;
+            QCOMPARE(steps(poseAt(each, durationOf(each)), idlePose(stance, 0)), 0.0);
+            for (int ms = 0; ms < 30000; ms += 33)
+                QVERIFY(steps(idlePose(stance, ms), idlePose(stance, ms + 33)) < 0.5);
+        }
+    }
+
+    void theDrawingStaysInsideItsFrame() {
+        QImage image(characterWidth, characterHeight, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::transparent);
+        const QImage empty = image;
+        for (const Animation each : allAnimations)
+            for (int ms = 0; ms <= durationOf(each); ms += 33) {
+                QPainter painter(&image);
+                drawCharacter(painter, poseAt(each, ms));
+                painter.setCompositionMode(QPainter::CompositionMode_Clear);
+                painter.fillRect(image.rect().adjusted(1, 1, -1, -1), Qt::black);
+                painter.end();
+                QVERIFY2(image == empty, qPrintable(QStringLiteral("%1 at %2 ms").arg(int(each)).arg(ms)));
+            }
+    }
+
+    void theWindowSpeaksPlaysAndLeaves() {
+        CharacterWindow window;
+        window.standBeside({900, 700, 600, 500}, {0, 0, 1280, 960});
+        QVERIFY(QRect(0, 0, 1280, 960).contains(window.geometry()));
+        QSignalSpy ended(&window, &CharacterWindow::animationEnded);
+        window.play(RestPose);
+        QVERIFY(window.windowHandle()->flags().testFlag(Qt::WindowDoesNotAcceptFocus));
+        window.setLoudness(1);
+        QTRY_VERIFY(window.pose().beak > 0.9);
+        window.setLoudness(0);
+        QTRY_VERIFY(window.pose().beak < 0.1);
+        QTRY_COMPARE(ended.count(), 1);
+        window.play(Hide);
+        QTRY_COMPARE(ended.count(), 2);
+        QVERIFY(!window.isVisible());
+    }
+};
+
+QTEST_MAIN(CharacterTest)
+#include "tst_character.moc"

@@ -3,7 +3,8 @@
 #include "platform/font_preparation.h"
 #include "platform/services.h"
 #include "platform/window_system.h"
-#include "presenter/presenter.h"
+#include "presenter/airport_presenter.h"
+#include "presenter/voice/espeak_voice.h"
 #include "shell/program.h"
 
 #include <QApplication>
@@ -28,7 +29,7 @@ int main(int argc, char** argv) {
     quarvel::RealProcessEnd process;
     quarvel::QtBeeper beeper;
     quarvel::DesktopNotificationArea notificationArea;
-    quarvel::NoPresenter presenter;
+    quarvel::AirportPresenter presenter([] { return std::make_unique<quarvel::EspeakVoice>(); });
     quarvel::Program program(QApplication::applicationDirPath(),
                              {messageBoxes, sounds, printer, urls, screen, process, beeper, notificationArea},
                              presenter);

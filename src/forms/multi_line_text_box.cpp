@@ -79,7 +79,14 @@ QString MultiLineTextBox::text() const {
     return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
 }
 
-void MultiLineTextBox::setText(const QString& text) { edit().setPlainText(text); }
+QString MultiLineTextBox::exactText() const {
+    return edit().document()->isModified() ? text() : asSet_;
+}
+
+void MultiLineTextBox::setText(const QString& text) {
+    edit().setPlainText(text);
+    asSet_ = text;
+}
 
 void MultiLineTextBox::setLongestTyped(int characters) {
     static_cast<NotesEdit&>(edit()).longest = characters;

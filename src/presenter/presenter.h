@@ -20,11 +20,4 @@ public:
     virtual void PresentAirport(const MultiLineTextBox& box) = 0;
 };
 
-/// Nobody: the airport is opened without a presentation.
-class NoPresenter : public Presenter {
-public:
-    void LoadTextFile(const QString& /*path*/, MultiLineTextBox& /*box*/) override {}
-    void PresentAirport(const MultiLineTextBox& /*box*/) override {}
-};
-
 } // namespace quarvel

@@ -153,6 +153,7 @@ void frmMain::fillFields(const AirportRecord& record) {
 void frmMain::presentAirport(const QString& name) {
     if (state_.MLSCurrentLanguage != u"Italiano"_s || !staysInFolder(state_.CurrentIcao)) return;
     presenterTextPath_ = paths_.presenterText(name, state_.CurrentIcao);
+    c->TxtFile.setText({}); // without a file of its own, no other airport's text is read
     presenter_.LoadTextFile(presenterTextPath_, c->TxtFile);
     presenter_.PresentAirport(c->TxtFile);
 }

@@ -1,0 +1,24 @@
+#include "presenter/airport_presenter.h"
+
+#include "files/whole_file.h"
+#include "presenter/core/presentation.h"
+#include "text/code_page.h"
+
+namespace quarvel {
+namespace {
+
+constexpr qint64 largestTextBytes = qint64{16} * 1024 * 1024;
+
+} // namespace
+
+void AirportPresenter::LoadTextFile(const QString& path, MultiLineTextBox& box) {
+    if (const Result<QByteArray> file = readWholeFile(path, largestTextBytes))
+        box.setText(decodeCodePage(file.value()));
+}
+
+void AirportPresenter::PresentAirport(const MultiLineTextBox& box) {
+    presentText(Agent, Genie, box.exactText());
+    if (OwnCharacter* character = Agent.own()) character->stage().standBeside(*box.widget().window());
+}
+
+} // namespace quarvel

@@ -8,6 +8,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 PATIENCE = 20.0  # seconds until something expected counts as missing; a busy machine is slow, not wrong
+CHARACTER = "animation"
 STATE = Atspi.StateType
 
 
@@ -188,7 +189,13 @@ class Shown:
 
     def windows(self):
         self._application.forget()
-        return [window for window in self._application.children() if window.showing]
+        return [window for window in self._application.children() if window.showing and window.role != CHARACTER]
+
+    def character(self):
+        """The presenter on the desktop, or None; its name is the line that it is speaking."""
+        self._application.forget()
+        found = (window for window in self._application.children() if window.showing and window.role == CHARACTER)
+        return next(found, None)
 
     def one(self, role, name):
         """The one showing thing of this role and name; waits for it."""

@@ -1,5 +1,5 @@
 """The main job, done from outside: find an airport, read its data, work with its charts, print, switch language;
-keep a chart above the simulator; then enter a new airport, find it after a restart, and leave from the icon.
+keep a chart above the simulator; then enter a new airport, find it after a restart, hear it presented, and leave from the icon.
 
 Usage: main_job.py EXECUTABLE DATA SCRATCH PICTURES      (in the desktop of scripts/with-desktop)
 """
@@ -11,6 +11,7 @@ import chart_steps
 import companion_steps
 import entry_steps
 import note_steps
+import presenter_steps
 from stage import Stage
 
 
@@ -35,6 +36,8 @@ def main(stage):
     entry_steps.type_a_new_airport(stage)
     entry_steps.save_it(stage)
     entry_steps.find_it_again(stage)
+    presenter_steps.present(stage)
+    presenter_steps.end_while_it_speaks(stage)
     airport_steps.open_again(stage)
     companion_steps.exit_from_the_icon(stage, chart_steps.choose_first(stage))
     stage.steps.done()

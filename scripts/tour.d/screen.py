@@ -109,14 +109,19 @@ class Eyes:
 
     def corner(self, path):
         """The lower right corner of the screen, where the notification area is, as a small picture file."""
-        cut = f"{420 * SCALE}x{260 * SCALE}+0+0"
-        _run("convert", self.still(), "-gravity", "SouthEast", "-crop", cut, "+repage", "-strip", f"png:{path}")
+        width, height = (int(side) for side in _run("xdotool", "getdisplaygeometry").split())
+        cut_width, cut_height = 420 * SCALE, 260 * SCALE
+        corner = self.still(f"{cut_width}x{cut_height}+{width - cut_width}+{height - cut_height}")
+        _run("convert", corner, "-strip", f"png:{path}")
 
-    def still(self):
-        """A picture of the screen once nothing moves on it."""
-        before = self.whole("before")
+    def still(self, crop):
+        """A picture of a part of the screen (as ImageMagick writes it) once nothing moves there."""
+        def look(name):
+            return prepare(self.whole(), self._scratch / f"{name}.png", "-crop", crop)
+
+        before = look("before")
         for _ in range(20):
-            now = self.whole("now")
+            now = look("now")
             if difference(before, now) == 0:
                 break
             now.replace(before)
@@ -130,7 +135,7 @@ class Eyes:
         crop = f"{width}x{height}+{window.x * SCALE - left}+{window.y * SCALE - top}"
         Path(path).parent.mkdir(parents=True, exist_ok=True)
         small = ("-strip", "-define", "png:compression-level=9", "-define", "png:compression-filter=5")
-        _run("convert", self.still(), "-crop", crop, "+repage", *small, f"png:{path}")
+        _run("convert", self.still(crop), *small, f"png:{path}")
 
 
 def difference(one, other):

@@ -79,9 +79,7 @@ QString MultiLineTextBox::text() const {
     return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
 }
 
-QString MultiLineTextBox::exactText() const {
-    return edit().document()->isModified() ? text() : asSet_;
-}
+QString MultiLineTextBox::exactText() const { return edit().document()->isModified() ? text() : asSet_; }
 
 void MultiLineTextBox::setText(const QString& text) {
     edit().setPlainText(text);

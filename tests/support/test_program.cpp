@@ -50,7 +50,7 @@ void TestProgram::addChart(const QString& relative, QSize size) const {
 
 void TestProgram::start() {
     program_ = std::make_unique<Program>(
-        folder_.path(), Services{boxes, sounds, printer, urls, screen, end, beeper, icons}, presenter);
+        folder_.path(), Services{boxes, sounds, printer, urls, screen, end, beeper, icons}, *presents);
     program_->show(WindowName::frmMain);
     if (!QTest::qWaitForWindowActive(mainWindow())) qFatal("the main window does not become active");
 }

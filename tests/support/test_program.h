@@ -70,6 +70,7 @@ public:
     CountedBeeps beeper;
     NotedIcons icons;
     NotedPresenter presenter;
+    Presenter* presents = &presenter; ///< whoever presents airports in the program that start() makes
 
 private:
     QTemporaryDir folder_;

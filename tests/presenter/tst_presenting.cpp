@@ -1,0 +1,105 @@
+#include "presenter/airport_presenter.h"
+#include "presenter/voice/espeak_voice.h"
+#include "support/test_program.h"
+
+#include <QDir>
+#include <QFile>
+#include <QPlainTextEdit>
+
+using namespace quarvel;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What a process holds, by /proc.
+struct Holdings {
+    qsizetype handles;
+    qsizetype children;
+    long kilobytes; ///< resident
+
+    static Holdings now() {
+        QFile statm(u"/proc/self/statm"_s);
+        QFile children(u"/proc/self/task/%1/children"_s.arg(QCoreApplication::applicationPid()));
+        if (!statm.open(QIODevice::ReadOnly) || !children.open(QIODevice::ReadOnly)) qFatal("no /proc");
+        return {QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System).size(),
+                children.readAll().count(' '), // one behind each
+                statm.readAll().split(' ').at(1).toLong() * 4};
+    }
+};
+
+/// Speaks every text at once and keeps it.
+class InstantVoice : public Voice {
+public:
+    explicit InstantVoice(QStringList& spoken) : spoken_(spoken) {}
+    void speak(const QString& text) override {
+        spoken_.append(text);
+        QMetaObject::invokeMethod(this, &Voice::finished, Qt::QueuedConnection);
+    }
+    void stop() override {}
+
+private:
+    QStringList& spoken_;
+};
+
+void openAnd(TestProgram& test, const QString& airport) {
+    test.openAirport(airport);
+    TestProgram::click(test.mainWindow(), u"cmdAzzera"_s);
+}
+
+} // namespace
+
+/// Airports opened in the real main window and presented by the real character.
+class PresentingTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theTextIsReadAsItsFileHoldsIt() {
+        QStringList spoken;
+        int voices = 0;
+        AirportPresenter presenter([&] {
+            ++voices;
+            return std::make_unique<InstantVoice>(spoken);
+        });
+        TestProgram test;
+        test.presents = &presenter;
+        for (const auto& airport : {u"LIRF"_s, u"LIMC"_s}) test.addAirport(airport);
+        test.write(u"aeroporti/LIRF/LIRF_Agent.txt"_s, "Roma \xE8 qui\nvicino\r\n\r\nFine\xA0!");
+        test.start();
+        QCOMPARE(voices, 0); // nothing is set up before the first presentation
+        openAnd(test, u"LIRF"_s);
+        openAnd(test, u"LIMC"_s); // has no text, and LIRF's is not read again
+        QVERIFY(
+            TestProgram::control<QPlainTextEdit>(test.mainWindow(), u"TxtFile"_s)->toPlainText().isEmpty());
+        QVERIFY(spoken.isEmpty());
+        test.mainWindow()->close(); // what there is still to say outlives the window
+        QTRY_COMPARE_WITH_TIMEOUT(spoken, QStringList({u"Roma è qui\nvicino"_s, QString(), u"Fine\u00A0!"_s}),
+                                  60000);
+        QCOMPARE(voices, 1);
+    }
+
+    void hundredAirportsLeaveNothingBehind() {
+        const Holdings before = Holdings::now();
+        {
+            AirportPresenter presenter([] { return std::make_unique<EspeakVoice>(); });
+            TestProgram test;
+            test.presents = &presenter;
+            for (int i = 0; i < 10; ++i) {
+                test.addAirport(u"LI%1"_s.arg(i));
+                test.write(u"aeroporti/LI%1/LI%1_Agent.txt"_s.arg(i),
+                           QByteArray("Benvenuti.\r\n").repeated(20));
+            }
+            test.start();
+            for (int i = 0; i < 20; ++i) openAnd(test, u"LI%1"_s.arg(i % 10));
+            const Holdings warm = Holdings::now();
+            for (int i = 20; i < 100; ++i) openAnd(test, u"LI%1"_s.arg(i % 10));
+            const Holdings then = Holdings::now();
+            QVERIFY2(then.handles <= warm.handles + 4, qPrintable(QString::number(then.handles)));
+            QVERIFY2(then.kilobytes <= warm.kilobytes + 4096, qPrintable(QString::number(then.kilobytes)));
+            QVERIFY(then.children <= 1);
+        }
+        QTRY_COMPARE(Holdings::now().children, before.children);
+    }
+};
+
+QTEST_MAIN(PresentingTest)
+#include "tst_presenting.moc"

@@ -3,10 +3,10 @@
 import subprocess
 import time
 
-from accessible import SOMETHING, expect, near
-from disk import CODE_PAGE, Airport
-from entry_steps import CODE, NAME
+from accessible import SOMETHING, Box, expect, near
+from disk import CODE_PAGE
 from screen import title
+from stage import AIRPORT
 
 LINES = ("Benvenuti, e buon volo.", "Perché no? È già sera.")
 # The sound server hands over what nobody hears in blocks of two seconds; a recording begins that much earlier.
@@ -48,13 +48,13 @@ def _spoken(stage, line, number):
 def _open(stage):
     stage.program.start()
     stage.main.expect_search()
-    stage.main.search(NAME.lower())
-    stage.main.open_from_list(NAME)
+    stage.main.search(AIRPORT.lower())
+    stage.main.open_from_list(AIRPORT)
 
 
 def present(stage):
     text = "\r\n".join(LINES).encode(CODE_PAGE)
-    Airport(stage.program.folder, NAME).presenter_text(CODE).write_bytes(text)
+    stage.airport.presenter_text(AIRPORT).write_bytes(text)
     recording = Recording(stage.scratch / "presentation.wav")
     with stage.step("an airport opened in Italian: a character comes into view, and the window keeps the keyboard"):
         _open(stage)
@@ -66,6 +66,9 @@ def present(stage):
     with stage.step("it reads the text line by line, for assistive tools too"):
         for line in LINES:
             expect("line that is spoken", lambda: shown.character().name, line)
+        window, character = stage.program.window(), shown.character().box
+        both = Box(window.x, window.y, character.right - window.x, window.height)
+        stage.eyes.snapshot(both, stage.pictures / "16-presentatore.png")
     with stage.step("it leaves, and what was heard is as long as the lines"):
         expect("character", shown.character, None)
         recording.stop()

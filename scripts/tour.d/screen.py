@@ -112,7 +112,7 @@ class Eyes:
         width, height = (int(side) for side in _run("xdotool", "getdisplaygeometry").split())
         cut_width, cut_height = 420 * SCALE, 260 * SCALE
         corner = self.still(f"{cut_width}x{cut_height}+{width - cut_width}+{height - cut_height}")
-        _run("convert", corner, "-strip", f"png:{path}")
+        _save(corner, path)
 
     def still(self, crop):
         """A picture of a part of the screen (as ImageMagick writes it) once nothing moves there."""
@@ -133,9 +133,17 @@ class Eyes:
         left, right, top, bottom = _borders()
         width, height = window.width * SCALE + left + right, window.height * SCALE + top + bottom
         crop = f"{width}x{height}+{window.x * SCALE - left}+{window.y * SCALE - top}"
-        Path(path).parent.mkdir(parents=True, exist_ok=True)
-        small = ("-strip", "-define", "png:compression-level=9", "-define", "png:compression-filter=5")
-        _run("convert", self.still(crop), *small, f"png:{path}")
+        _save(self.still(crop), path)
+
+    def snapshot(self, box, path):
+        """A picture file of a box as it is at this moment, for what never stands still."""
+        _save(self.part(box), path)
+
+
+def _save(picture, path):
+    Path(path).parent.mkdir(parents=True, exist_ok=True)
+    small = ("-strip", "-define", "png:compression-level=9", "-define", "png:compression-filter=5")
+    _run("convert", picture, *small, f"png:{path}")
 
 
 def difference(one, other):

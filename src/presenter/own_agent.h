@@ -11,7 +11,7 @@
 namespace quarvel {
 
 /// This program's own character: asked as any other, drawn and voiced by the program itself.
-class OwnCharacter : public AgentCharacter {
+class OwnCharacter final : public AgentCharacter {
 public:
     explicit OwnCharacter(std::unique_ptr<Voice> voice);
 
@@ -35,7 +35,7 @@ private:
 
 /// Where the program's own character stands in for whatever character file is asked for: the first load makes
 /// it, and from then on its ID is taken.
-class OwnAgent : public AgentControl {
+class OwnAgent final : public AgentControl {
 public:
     using MakeVoice = std::function<std::unique_ptr<Voice>()>;
     /// `makeVoice` is called at the first load and not before.

@@ -14,11 +14,10 @@ namespace quarvel {
 
 /// Carries out what the character is asked for: the animations in its window on the desktop, the texts by
 /// the voice.
-class Stage : public RequestPerformer {
+class Stage final : public RequestPerformer {
 public:
     /// `ended` is called whenever a request that was begun is over.
     Stage(std::unique_ptr<Voice> voice, std::function<void()> ended);
-    virtual ~Stage() = default;
 
     /// The window beside which the character appears from now on; it stays where it last was when the window
     /// goes.

@@ -1,8 +1,10 @@
 #include "companion/frmFS9.h"
 
+#include "platform/x11.h"
 #include "text/rounding.h"
 
 #include <QTimer>
+#include <utility>
 
 namespace quarvel {
 namespace {
@@ -48,22 +50,28 @@ void frmFS9::Form_Load() {
     TwipsPerPixelX = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelX()));
     TwipsPerPixelY = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelY()));
     ZoomLevel = 0;
+    wasMinimised_ = false;
     chart_.emplace(c->Picture1, c->Image1, c->HScroll1, c->VScroll1,
                    TwipsPerPixel{TwipsPerPixelX, TwipsPerPixelY}, ZoomLevel);
     centreOn(services_.screen.whole());
+    keepOnTop(); // before the icon, which takes the window's handle
     addIcon();
-    keepOnTop();
     state_.CompanionMode = showsChart;
     recordedWithoutPicture_ = LoadCompanionPicture() == Loaded::No;
 }
 
 void frmFS9::Form_Resize() {
     if (Resizer) Resizer->ResizeControls();
-    if (!isMinimised()) return;
+    if (!isMinimised()) {
+        if (std::exchange(wasMinimised_, false)) askToStayAbove(*window());
+        return;
+    }
+    wasMinimised_ = true;
     c->mnuRipris.setUsable(Usable::Yes);
-    // Without anybody to show the icon a hidden window would be lost: it stays in the task bar. The toolkit
-    // is still busy with minimising the window and hides it only afterwards.
-    if (services_.notificationArea.isThere())
+    // Without anybody to show the icon a hidden window would be lost, and with it a box that it shows: it
+    // stays in the task bar. The toolkit is still busy with minimising the window and hides it only
+    // afterwards.
+    if (services_.notificationArea.isThere() && !hasOwnBox())
         QTimer::singleShot(0, window(), [this] {
             if (isMinimised()) hide();
         });

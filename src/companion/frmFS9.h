@@ -66,6 +66,7 @@ private:
     void mPopExit_Click();
     void switchTo(qint16 mode);
     void comeBack();
+    void showAbove();
     void addIcon();
     void removeIcon();
     [[nodiscard]] QIcon icon() const override;
@@ -83,6 +84,7 @@ private:
     qint32 TwipsPerPixelY = 0;
     qint32 ZoomLevel = 0; ///< zoom-in steps minus zoom-out steps since the picture was loaded
     std::unique_ptr<clsResize> Resizer;
+    bool wasMinimised_ = false;
     bool recordedWithoutPicture_ = false; ///< the chart that the window opened for could not be shown
     std::optional<ChartFrame> chart_;
 };

@@ -1,5 +1,6 @@
 #include "companion/core/tray_record.h"
 #include "companion/frmFS9.h"
+#include "platform/x11.h"
 
 #include <QCursor>
 #include <QMenu>
@@ -40,6 +41,11 @@ void frmFS9::comeBack() {
     bringToForeground();
 }
 
+void frmFS9::showAbove() {
+    show();
+    askToStayAbove(*window());
+}
+
 void frmFS9::mnuAeroporto_Click() { switchTo(showsAirport); }
 
 void frmFS9::mnuProcScelta_Click() { switchTo(showsChart); }
@@ -52,14 +58,14 @@ void frmFS9::switchTo(qint16 mode) {
     c->mnuAeroporto.setUsable(chart ? Usable::Yes : Usable::No);
     c->mnuProcScelta.setUsable(chart ? Usable::No : Usable::Yes);
     comeBack();
-    show();
+    showAbove();
 }
 
 void frmFS9::mnuRipris_Click() {
     LoadCompanionPicture();
     comeBack();
     c->mnuRipris.setUsable(Usable::No);
-    show();
+    showAbove();
 }
 
 void frmFS9::mnuNuovaproc_Click() {

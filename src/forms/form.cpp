@@ -132,6 +132,8 @@ void Form::setOuterMeasure(Measure which, double twips) {
     if (widget_) widget_->setOuterMeasure(which, twips);
 }
 
+bool Form::hasOwnBox() const { return widget_ && widget_->hasOwnBox(); }
+
 Form::OwnBox::OwnBox(Form& form) : widget_(form.widget_) {
     if (widget_) widget_->beginOwnBox();
 }

@@ -75,6 +75,9 @@ public:
     /// Gives the controls the names that assistive tools read, from the texts now on the window.
     virtual void giveSpokenNames() {}
 
+    /// Whether the window shows a box of its own.
+    [[nodiscard]] bool hasOwnBox() const;
+
     /// While it lives the window shows a box of its own: coming back from that is no activation.
     class OwnBox {
     public:
@@ -106,7 +109,8 @@ protected:
 
     /// Puts the window, frame included, in the middle of a screen (logical pixels).
     void centreOn(const QRect& screen);
-    /// Keeps the window above all others. Comes before its first showing: later it would be made anew.
+    /// Keeps the window above all others. Comes before the window has a handle: the toolkit would give it
+    /// another one.
     void keepOnTop();
     /// Neither minimised nor maximised any more. A hidden window stays hidden, and is so when it is shown.
     void setNormalState();

@@ -124,8 +124,8 @@ void FormWidget::resizeEvent(QResizeEvent* event) {
 
 void FormWidget::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange && isVisible())
-        becomeMinimised(windowState().testFlag(Qt::WindowMinimized));
+    if (event->type() != QEvent::WindowStateChange || !isVisible()) return;
+    becomeMinimised(windowState().testFlag(Qt::WindowMinimized));
 }
 
 void FormWidget::becomeMinimised(bool minimised) {
@@ -153,7 +153,11 @@ void FormWidget::setMinimisedState() {
 
 void FormWidget::showInTaskBar() {
     normalWhenShown_ = false;
+    // The window manager minimises what it manages: a window that is shown minimised comes up as it was.
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    showNormal();
     showMinimized();
+    setAttribute(Qt::WA_ShowWithoutActivating, false);
 }
 
 void FormWidget::bringBack() {

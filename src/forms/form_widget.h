@@ -40,6 +40,7 @@ public:
     void bringBack();
     void setOuterMeasure(Measure which, double twips);
     void beginOwnBox() { ++ownBoxes_; }
+    [[nodiscard]] bool hasOwnBox() const { return ownBoxes_ > 0; }
     void endOwnBox();
 
 protected:

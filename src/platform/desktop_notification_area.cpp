@@ -24,6 +24,13 @@ IconKey keyOf(const NotificationArea::Record& record) {
     return {qFromLittleEndian<quint32>(record.data() + 4), qFromLittleEndian<quint32>(record.data() + 8)};
 }
 
+void bringForward(QWidget& box, int message) {
+    if (message == iconMessage::mouseMove) return;
+    box.showNormal();
+    box.raise();
+    box.activateWindow();
+}
+
 QString tipOf(const NotificationArea::Record& record) {
     constexpr qsizetype tipOffset = 24;
     const QByteArrayView field = QByteArrayView(record).sliced(tipOffset);
@@ -68,8 +75,11 @@ public:
 
     void iconMouse(int message) override {
         const auto tell = [&window = window_, message] {
-            // The toolkit keeps the mouse from windows behind a modal box, but knows nothing of the bus.
-            if (QApplication::activeModalWidget() == nullptr) window.iconMouse(message);
+            // Behind a modal box no window gets the mouse: a click asks for the box, which may be covered.
+            if (QWidget* const box = QApplication::activeModalWidget())
+                bringForward(*box, message);
+            else
+                window.iconMouse(message);
         };
         // What is still queued goes with the icon's face: a notification area that ends may leave some.
         if (face_) QMetaObject::invokeMethod(face_.get(), tell, Qt::QueuedConnection);

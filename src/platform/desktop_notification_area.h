@@ -17,7 +17,8 @@ class StatusNotifierHost;
 /// waits for the bus then.
 ///
 /// Nothing is looked for before the first icon is added. Mouse messages come from the event loop, so that a
-/// menu may be opened from in there; none come while a modal box is open, or after the icon has been deleted.
+/// menu may be opened from in there; while a modal box is open a click brings that forward instead; none come
+/// after the icon has been deleted.
 class DesktopNotificationArea : public NotificationArea {
 public:
     DesktopNotificationArea();

@@ -2,6 +2,7 @@
 
 #include "platform/embedding_host.h"
 #include "platform/notification_area.h"
+#include "platform/x11.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>

@@ -1,8 +1,8 @@
 #include "platform/embedding_host.h"
 
+#include "platform/x11.h"
+
 #include <QGuiApplication>
-#include <cstdlib>
-#include <memory>
 #include <utility>
 #include <xcb/xcb.h>
 
@@ -11,13 +11,6 @@ namespace {
 
 constexpr quint32 requestDock = 0; // SYSTEM_TRAY_REQUEST_DOCK
 constexpr int alphaDepth = 32;     // bits
-
-/// Replies of the X server are the receiver's to free.
-struct Free {
-    void operator()(void* reply) const { std::free(reply); }
-};
-template <typename T>
-using Reply = std::unique_ptr<T, Free>;
 
 int depthOf(const xcb_screen_t& screen, xcb_visualid_t visual) {
     for (auto depth = xcb_screen_allowed_depths_iterator(&screen); depth.rem > 0; xcb_depth_next(&depth))
@@ -32,17 +25,11 @@ const xcb_screen_t& firstScreen(xcb_connection_t* connection) {
 
 } // namespace
 
-xcb_connection_t* x11Connection() {
-    const auto* const x11 =
-        qGuiApp != nullptr ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
-    return x11 != nullptr ? x11->connection() : nullptr;
-}
-
 EmbeddingHost::EmbeddingHost(std::function<void()> started)
     : started_(std::move(started)), connection_(x11Connection()) {
     if (connection_ == nullptr) return;
-    selection_ = atom("_NET_SYSTEM_TRAY_S0");
-    manager_ = atom("MANAGER");
+    selection_ = x11Atom("_NET_SYSTEM_TRAY_S0");
+    manager_ = x11Atom("MANAGER");
     watchRootWindow();
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
@@ -51,23 +38,17 @@ EmbeddingHost::EmbeddingHost(std::function<void()> started)
 /// keeps one choice of events a connection, so that ours is added to Qt's.
 void EmbeddingHost::watchRootWindow() const {
     const xcb_window_t root = firstScreen(connection_).root;
-    const Reply<xcb_get_window_attributes_reply_t> now(
+    const X11Reply<xcb_get_window_attributes_reply_t> now(
         xcb_get_window_attributes_reply(connection_, xcb_get_window_attributes(connection_, root), nullptr));
     if (now == nullptr) return;
     const quint32 events = now->your_event_mask | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     xcb_change_window_attributes(connection_, root, XCB_CW_EVENT_MASK, &events);
 }
 
-EmbeddingHost::Id EmbeddingHost::atom(QByteArrayView name) const {
-    const auto asked = xcb_intern_atom(connection_, 0, static_cast<quint16>(name.size()), name.data());
-    const Reply<xcb_intern_atom_reply_t> answer(xcb_intern_atom_reply(connection_, asked, nullptr));
-    return answer != nullptr ? answer->atom : Id{XCB_ATOM_NONE};
-}
-
 EmbeddingHost::Id EmbeddingHost::owner() const {
     if (connection_ == nullptr) return XCB_WINDOW_NONE;
     const auto asked = xcb_get_selection_owner(connection_, selection_);
-    const Reply<xcb_get_selection_owner_reply_t> answer(
+    const X11Reply<xcb_get_selection_owner_reply_t> answer(
         xcb_get_selection_owner_reply(connection_, asked, nullptr));
     return answer != nullptr ? answer->owner : Id{XCB_WINDOW_NONE};
 }
@@ -78,8 +59,8 @@ bool EmbeddingHost::isTranslucent() const {
     const Id host = owner();
     if (host == XCB_WINDOW_NONE) return false;
     const auto asked =
-        xcb_get_property(connection_, 0, host, atom("_NET_SYSTEM_TRAY_VISUAL"), XCB_ATOM_VISUALID, 0, 1);
-    const Reply<xcb_get_property_reply_t> answer(xcb_get_property_reply(connection_, asked, nullptr));
+        xcb_get_property(connection_, 0, host, x11Atom("_NET_SYSTEM_TRAY_VISUAL"), XCB_ATOM_VISUALID, 0, 1);
+    const X11Reply<xcb_get_property_reply_t> answer(xcb_get_property_reply(connection_, asked, nullptr));
     if (answer == nullptr || answer->format != 32 || xcb_get_property_value_length(answer.get()) < 4)
         return false;
     const auto visual = *static_cast<const xcb_visualid_t*>(xcb_get_property_value(answer.get()));
@@ -91,7 +72,7 @@ void EmbeddingHost::take(WId window) const {
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 32;
     message.window = owner();
-    message.type = atom("_NET_SYSTEM_TRAY_OPCODE");
+    message.type = x11Atom("_NET_SYSTEM_TRAY_OPCODE");
     message.data.data32[0] = XCB_CURRENT_TIME;
     message.data.data32[1] = requestDock;
     message.data.data32[2] = static_cast<quint32>(window);

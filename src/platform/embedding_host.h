@@ -28,7 +28,6 @@ public:
 private:
     using Id = quint32; // of a window, an atom or a visual
 
-    [[nodiscard]] Id atom(QByteArrayView name) const;
     [[nodiscard]] Id owner() const;
     void watchRootWindow() const;
 
@@ -38,8 +37,5 @@ private:
     Id selection_ = 0;
     Id manager_ = 0;
 };
-
-/// The connection to the X server that the windows are on; nullptr on other window systems.
-[[nodiscard]] xcb_connection_t* x11Connection();
 
 } // namespace quarvel

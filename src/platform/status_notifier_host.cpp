@@ -3,6 +3,8 @@
 #include <QDBusMessage>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
+#include <QTimer>
+#include <limits>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -10,8 +12,8 @@ using namespace Qt::StringLiterals;
 namespace quarvel {
 namespace {
 
-constexpr int patienceMilliseconds =
-    2000; // for a registrar that hangs; until then no icon is shown elsewhere
+constexpr int patienceMilliseconds = 2000; // with a registrar: until then no icon is shown elsewhere
+constexpr int unlimited = std::numeric_limits<int>::max();
 
 QString watcherService() { return QString::fromUtf16(statusNotifier::watcherService); }
 
@@ -45,11 +47,15 @@ void StatusNotifierHost::ask() {
                                        u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
     question << watcherService() << u"IsStatusNotifierHostRegistered"_s;
     question.setAutoStartService(false);
-    asking_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(question, patienceMilliseconds));
+    asking_ = std::make_unique<QDBusPendingCallWatcher>(bus_.asyncCall(question, unlimited));
     connect(asking_.get(), &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* asked) {
         const QDBusPendingReply<QDBusVariant> answer = *asked;
         const bool registered = !answer.isError() && answer.value().variant().toBool();
         settle(registered ? Presence::Yes : Presence::No);
+    });
+    // One that is slow to answer is not there until it does.
+    QTimer::singleShot(patienceMilliseconds, asking_.get(), [this] {
+        if (!asking_->isFinished()) settle(Presence::No);
     });
 }
 

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QMenu>
 #include <QScrollBar>
+#include <QWindow>
 
 using namespace quarvel;
 using namespace Qt::StringLiterals;
@@ -58,6 +59,7 @@ private Q_SLOTS:
         QCOMPARE(image(*test)->geometry(), QRect(QPoint(-1, -1), chart));
         QCOMPARE(bar(*test, u"HScroll1"_s), QList<int>({1, 800 - 377, 1, 1}));
         QCOMPARE(bar(*test, u"VScroll1"_s), QList<int>({1, 1100 - 433, 1, 1}));
+        QCOMPARE(test->program().state().TrayIconData.window, window->windowHandle()->winId());
         QCOMPARE(QByteArray(test->icons.icons.at(0).data() + 24),
                  QByteArray("Quarvel - cartine procedurali"));
         QVERIFY(enabled(*test, u"mnuAeroporto"_s) && !enabled(*test, u"mnuProcScelta"_s));

@@ -2,8 +2,8 @@
 // airport less than 20 ms on the user-interface thread, and so does bringing the character onto the screen
 // afterwards.
 
+#include "forms/hidden_text_box.h"
 #include "forms/look.h"
-#include "forms/text_box.h"
 #include "measuring.h"
 #include "presenter/airport_presenter.h"
 #include "presenter/voice/espeak_voice.h"
@@ -43,7 +43,7 @@ struct Times {
     double shown;
 };
 
-Times present(const TestProgram& test, MultiLineTextBox& box) {
+Times present(const TestProgram& test, HiddenTextBox& box) {
     AirportPresenter presenter([] { return std::make_unique<EspeakVoice>(); });
     const double asked = milliseconds([&] {
         presenter.LoadTextFile(test.path(u"LIRF_Agent.txt"_s), box);
@@ -70,7 +70,7 @@ int main(int argc, char** argv) {
     struct Inside : Container {
         using Container::Container;
     } inside(window, scaleTwips, list);
-    MultiLineTextBox box(inside, {.name = "TxtFile", .place = {0, 0, 5415, 2535}, .shown = Shown::No});
+    HiddenTextBox box(inside, {.name = "TxtFile", .place = {0, 0, 5415, 2535}, .shown = Shown::No});
     const Times first = present(test, box);
     std::vector<double> asked, shown;
     for (int round = 0; round < rounds; ++round) {

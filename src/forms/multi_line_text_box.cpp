@@ -79,12 +79,7 @@ QString MultiLineTextBox::text() const {
     return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
 }
 
-QString MultiLineTextBox::exactText() const { return edit().document()->isModified() ? text() : asSet_; }
-
-void MultiLineTextBox::setText(const QString& text) {
-    edit().setPlainText(text);
-    asSet_ = text;
-}
+void MultiLineTextBox::setText(const QString& text) { edit().setPlainText(text); }
 
 void MultiLineTextBox::setLongestTyped(int characters) {
     static_cast<NotesEdit&>(edit()).longest = characters;

@@ -47,8 +47,6 @@ public:
     MultiLineTextBox(Container& container, const ControlSpec& spec);
 
     [[nodiscard]] QString text() const;
-    /// The text with the line ends with which it was set; of one that has been edited since, text().
-    [[nodiscard]] QString exactText() const;
     void setText(const QString& text);
     void setLongestTyped(int characters);
     void setEditing(Editing editing);
@@ -58,8 +56,6 @@ public:
 
 private:
     [[nodiscard]] QPlainTextEdit& edit() const;
-
-    QString asSet_;
 };
 
 } // namespace quarvel

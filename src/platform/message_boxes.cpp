@@ -45,7 +45,7 @@ Answer answerOf(int button) {
 Answer QtMessageBoxes::show(QWidget* parent, const MessageBox& box, const ButtonCaptions& captions) {
     QMessageBox shown(iconOf(box.icon), box.title, box.text, buttonsOf(box.buttons), parent);
     shown.setTextFormat(Qt::PlainText);
-    // A box is answered, not minimised: it has no place of its own in the task bar to come back from.
+    // A box is answered, not minimised.
     shown.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     // Of a window above all others, a box must be so too: the window may be hidden, or lie below it.

@@ -11,13 +11,13 @@ constexpr qint64 largestTextBytes = qint64{16} * 1024 * 1024;
 
 } // namespace
 
-void AirportPresenter::LoadTextFile(const QString& path, MultiLineTextBox& box) {
+void AirportPresenter::LoadTextFile(const QString& path, HiddenTextBox& box) {
     if (const Result<QByteArray> file = readWholeFile(path, largestTextBytes))
         box.setText(decodeCodePage(file.value()));
 }
 
-void AirportPresenter::PresentAirport(const MultiLineTextBox& box) {
-    presentText(Agent, Genie, box.exactText());
+void AirportPresenter::PresentAirport(const HiddenTextBox& box) {
+    presentText(Agent, Genie, box.text());
     if (OwnCharacter* character = Agent.own()) character->stage().standBeside(*box.widget().window());
 }
 

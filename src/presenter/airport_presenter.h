@@ -12,8 +12,8 @@ public:
     explicit AirportPresenter(OwnAgent::MakeVoice makeVoice) : Agent(std::move(makeVoice)) {}
 
     /// The text is single-byte, in Windows-1252. A file that cannot be read leaves the box unchanged.
-    void LoadTextFile(const QString& path, MultiLineTextBox& box) override;
-    void PresentAirport(const MultiLineTextBox& box) override;
+    void LoadTextFile(const QString& path, HiddenTextBox& box) override;
+    void PresentAirport(const HiddenTextBox& box) override;
 
 private:
     OwnAgent Agent;

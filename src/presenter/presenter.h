@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/text_box.h"
+#include "forms/hidden_text_box.h"
 
 #include <QString>
 
@@ -15,9 +15,9 @@ public:
     virtual ~Presenter() = default;
 
     /// Replaces the box's text by the whole content of a file.
-    virtual void LoadTextFile(const QString& path, MultiLineTextBox& box) = 0;
+    virtual void LoadTextFile(const QString& path, HiddenTextBox& box) = 0;
     /// Starts one presentation of the box's text and returns at once.
-    virtual void PresentAirport(const MultiLineTextBox& box) = 0;
+    virtual void PresentAirport(const HiddenTextBox& box) = 0;
 };
 
 } // namespace quarvel

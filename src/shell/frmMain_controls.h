@@ -3,6 +3,7 @@
 #include "forms/button.h"
 #include "forms/control_array.h"
 #include "forms/frame.h"
+#include "forms/hidden_text_box.h"
 #include "forms/image.h"
 #include "forms/label.h"
 #include "forms/list_box.h"
@@ -36,7 +37,7 @@ struct frmMainControls {
     ListBox   lstWords   {fraRicerca, {.name = "lstWords", .place = {120, 480, 4695, 2220}, .look = {Face::Arial, 9.75, Weight::Bold, QColor(255, 255, 255), QColor(0, 0, 0)}}};
     Label     Label16    {fraRicerca, {.name = "Label16", .place = {120, 240, 2895, 255}, .caption = u"AEROPORTI IN ARCHIVIO", .look = {Face::Arial, 8.25, Weight::Bold, QColor(255, 255, 255)}}};
 
-    MultiLineTextBox TxtFile {form,   {.name = "TxtFile", .place = {2640, 3120, 5415, 2535}, .shown = Shown::No}};
+    HiddenTextBox TxtFile {form,   {.name = "TxtFile", .place = {2640, 3120, 5415, 2535}, .shown = Shown::No}};
 
     Frame     fraMail     {form,      {.name = "fraMail", .place = {2520, 2160, 5175, 4335}, .caption = u"INFORMAZIONI", .shown = Shown::No, .look = {.weight = Weight::Bold, .text = QColor(255, 255, 0), .background = QColor(0, 0, 0)}}};
     Button    cmdEsciMail {fraMail,   {.name = "cmdEsciMail", .place = {3720, 3480, 855, 735}, .caption = u"&Chiudi", .toolTip = u"Chiudi la finestra", .picture = "esci_mail"}};

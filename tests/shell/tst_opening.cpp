@@ -58,7 +58,7 @@ private Q_SLOTS:
         QCOMPARE(test.program().state().CurrentAirport, u"LIRF"_s);
         QCOMPARE(test.program().state().CurrentIcao, u"LIRF"_s);
         QCOMPARE(test.presenter.loaded, QStringList(test.path(u"aeroporti/LIRF/LIRF_Agent.txt"_s)));
-        QCOMPARE(test.presenter.presentations, 1);
+        QCOMPARE(test.presenter.presented.size(), 1);
         QVERIFY(test.boxes.shown.isEmpty());
     }
 
@@ -85,7 +85,7 @@ private Q_SLOTS:
         test.openAirport(u"LIRF"_s);
         const bool made = !test.end.ended && visible(test.mainWindow(), u"Frame3"_s);
         QCOMPARE(test.end.ended ? u"end"_s : made ? u"new airport"_s : u"shown"_s, outcome);
-        QCOMPARE(test.presenter.presentations, 0);                    // it speaks Italian only
+        QCOMPARE(test.presenter.presented.size(), 0);                    // it speaks Italian only
         QVERIFY(!QDir(test.path(u"aeroporti/LIRF/Star"_s)).exists()); // an existing folder gets nothing added
     }
 

@@ -3,6 +3,8 @@
 #include "platform/services.h"
 #include "presenter/presenter.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QList>
 #include <QRect>
 #include <QStringList>
@@ -84,12 +86,16 @@ public:
     bool isThere() const override { return there; }
 };
 
+/// Reads a presenter text as the name of its file, and keeps what it would have read aloud.
 class NotedPresenter : public Presenter {
 public:
     QStringList loaded;
-    int presentations = 0;
-    void LoadTextFile(const QString& path, MultiLineTextBox& /*box*/) override { loaded.append(path); }
-    void PresentAirport(const MultiLineTextBox& /*box*/) override { ++presentations; }
+    QStringList presented;
+    void LoadTextFile(const QString& path, HiddenTextBox& box) override {
+        loaded.append(path);
+        if (QFile::exists(path)) box.setText(QFileInfo(path).fileName());
+    }
+    void PresentAirport(const HiddenTextBox& box) override { presented.append(box.text()); }
 };
 
 } // namespace quarvel

@@ -85,7 +85,7 @@ private Q_SLOTS:
         test.openAirport(u"LIRF"_s);
         const bool made = !test.end.ended && visible(test.mainWindow(), u"Frame3"_s);
         QCOMPARE(test.end.ended ? u"end"_s : made ? u"new airport"_s : u"shown"_s, outcome);
-        QCOMPARE(test.presenter.presented.size(), 0);                    // it speaks Italian only
+        QCOMPARE(test.presenter.presented.size(), 0);                 // it speaks Italian only
         QVERIFY(!QDir(test.path(u"aeroporti/LIRF/Star"_s)).exists()); // an existing folder gets nothing added
     }
 

@@ -15,7 +15,7 @@ def link(stage, chart):
         companion.expect_shown()
         stage.program.shown.no_window(viewer)
         expect("states of the window", lambda: ABOVE in active_states(), True)
-        companion.expect_size(chart, natural_size(stage.airport.chart("Sid", chart)))
+        companion.expect_picture(chart, natural_size(stage.airport.chart("Sid", chart)))
         stage.keep("12-accanto-al-simulatore")
 
 
@@ -37,20 +37,20 @@ def zoom_and_resize(stage, chart):
     with stage.step("a left click zooms in, a right click out"):
         box = companion.inside()
         click_at(box.x + 100, box.y + 100)
-        companion.expect_size(chart, [side * LARGER for side in natural])
+        companion.expect_picture(chart, [side * LARGER for side in natural])
         click_at(box.x + 100, box.y + 100, button=3)
-        companion.expect_size(chart, [side * LARGER * SMALLER for side in natural])
+        companion.expect_picture(chart, [side * LARGER * SMALLER for side in natural])
     with stage.step("the window is resized: the chart and the scroll bars keep their proportions to it"):
         first = companion.inside()
         resize_to(first.width + 200, first.height + companion.menu_bar().height + 150)
         expect("width of the inside", lambda: companion.inside().width, first.width + 200)
         ratios = [(first.width + 200) / first.width, (first.height + 150) / first.height]
-        companion.expect_size(chart, [side * ratio for side, ratio in zip(natural, ratios)])
+        companion.expect_picture(chart, [side * ratio for side, ratio in zip(natural, ratios)])
         bar = companion.bars()[1].box
         expect("right edge of the bar down", lambda: bar.right, above(companion.inside().right - 3))
         stage.keep("13-ingrandita")
         resize_to(first.width, first.height + companion.menu_bar().height)
-        companion.expect_size(chart, natural)
+        companion.expect_picture(chart, natural)
 
 
 def minimise_to_the_icon(stage, chart):
@@ -70,7 +70,7 @@ def minimise_to_the_icon(stage, chart):
         companion.choose_item("mnuAeroporto")
         companion.expect_shown()
         expect("states of the window", lambda: ABOVE in active_states(), True)
-        companion.expect_size(AIRPORT, natural_size(stage.airport.picture()))
+        companion.expect_picture(AIRPORT, natural_size(stage.airport.picture()))
         stage.keep("15-foto")
     with stage.step("minimised again, Restore brings it back"):
         minimise()
@@ -82,7 +82,7 @@ def minimise_to_the_icon(stage, chart):
     with stage.step("its own menu brings the chart back"):
         companion.open_menu()
         companion.choose_item("mnuProcScelta")
-        companion.expect_size(chart, natural_size(stage.airport.chart("Sid", chart)))
+        companion.expect_picture(chart, natural_size(stage.airport.chart("Sid", chart)))
 
 
 def other_notification_areas(stage):
@@ -129,7 +129,7 @@ def exit_from_the_icon(stage, chart):
     with stage.step("linked again and minimised, &Exit in the icon's menu ends the program, and its icon goes"):
         stage.viewer.choose("Command4")
         stage.companion.expect_shown()
-        stage.companion.expect_size(chart, natural_size(stage.airport.chart("Sid", chart)))
+        stage.companion.expect_picture(chart, natural_size(stage.airport.chart("Sid", chart)))
         minimise()
         stage.companion.expect_hidden()
         stage.tray.click(3)

@@ -49,6 +49,17 @@ class Window:
         return expect(f"picture {name!r}", lambda: [
             thing for role in ("filler", "image") for thing in self.shown.all(role, name)], ONE)[0]
 
+    def expect_picture(self, picture, wanted):
+        """The picture has this width and height, to the pixel that rounding leaves open."""
+        def size():
+            box = self.picture_named(picture).box
+            return box.width, box.height
+
+        def close(seen):
+            return all(abs(now - side) <= 1 for now, side in zip(seen, wanted))
+
+        expect(f"size of picture {picture!r}", size, Judge(f"{wanted[0]:.1f} x {wanted[1]:.1f} pixels", close))
+
     def close_box(self):
         press("alt+F4")  # the window manager's key for the close box of the title bar
 
@@ -171,16 +182,7 @@ class Viewer(Window):
 
     def expect_size(self, chart, factor, natural):
         """The chart stands at a zoom factor of its natural size, and where the scroll bars say."""
-        wanted = [side * factor for side in natural]
-
-        def size():
-            box = self.chart(chart).box
-            return box.width, box.height
-
-        def close(seen):
-            return all(abs(now - side) <= 1 for now, side in zip(seen, wanted))
-
-        expect(f"size of chart {chart!r}", size, Judge(f"{wanted[0]:.1f} x {wanted[1]:.1f} pixels", close))
+        self.expect_picture(chart, [side * factor for side in natural])
         self.expect_follows(chart)
 
     def expect_follows(self, chart):
@@ -230,17 +232,6 @@ class Companion(Window):
     def bars(self):
         bars = self.shown.all("scroll bar")
         return [next(bar for bar in bars if (bar.box.width > bar.box.height) == across) for across in (True, False)]
-
-    def expect_size(self, picture, wanted):
-        """The picture has this width and height, to the pixel that rounding leaves open."""
-        def size():
-            box = self.picture_named(picture).box
-            return box.width, box.height
-
-        def close(seen):
-            return all(abs(now - side) <= 1 for now, side in zip(seen, wanted))
-
-        expect(f"size of picture {picture!r}", size, Judge(f"{wanted[0]:.1f} x {wanted[1]:.1f} pixels", close))
 
     def open_menu(self):
         press(f"alt+{self.language.key(self.name, 'mApps')}")

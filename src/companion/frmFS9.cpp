@@ -26,6 +26,8 @@ frmFS9::frmFS9(const frmFS9Needs& needs)
 
 void frmFS9::wire() {
     c->Image1.mouseDown.calls(this, &frmFS9::Image1_MouseDown);
+    c->Picture1.wheelTurned.calls(this, &frmFS9::Picture1_WheelTurned);
+    c->Picture1.dragged.calls(this, &frmFS9::Picture1_Dragged);
     c->HScroll1.scrolled.calls(this, &frmFS9::HScroll1_Scroll);
     c->HScroll1.changed.calls(this, &frmFS9::HScroll1_Change);
     c->VScroll1.scrolled.calls(this, &frmFS9::VScroll1_Scroll);
@@ -53,6 +55,8 @@ void frmFS9::Form_Load() {
     wasMinimised_ = false;
     chart_.emplace(c->Picture1, c->Image1, c->HScroll1, c->VScroll1,
                    TwipsPerPixel{TwipsPerPixelX, TwipsPerPixelY}, ZoomLevel);
+    c->Picture1.setSpokenName(windowCaption()); // which says what the mouse does there
+    c->Picture1.setFocus();
     centreOn(services_.screen.whole());
     keepOnTop(); // before the icon, which takes the window's handle
     addIcon();

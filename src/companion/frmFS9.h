@@ -37,6 +37,7 @@ protected:
     void forgetControls() override;
     void Form_Load() override;
     void Form_Resize() override;
+    void Form_KeyDown(KeyDown& key) override;
     void Form_MouseMove(int button, int shift, float x, float y) override;
     Closing Form_QueryUnload(UnloadReason reason) override;
     void Form_Unload() override;
@@ -53,6 +54,9 @@ private:
     void tellOnceShown(Task task, const std::optional<Failure>& failure = {});
     void clearImages();
     void Image1_MouseDown(int button, float x, float y);
+    void Picture1_WheelTurned(const WheelTurn& turn);
+    void Picture1_Dragged(Drag part, QPointF pointer);
+    void beepIf(ZoomOutcome outcome);
     void HScroll1_Scroll();
     void HScroll1_Change();
     void VScroll1_Scroll();

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "forms/frame.h"
 #include "forms/image.h"
 #include "forms/menu.h"
+#include "forms/picture_box.h"
 #include "forms/scroll_control.h"
 
 namespace quarvel {

@@ -46,8 +46,20 @@ void frmFS9::clearImages() {
     c->Image2.setPicture({});
 }
 
-void frmFS9::Image1_MouseDown(int button, float x, float y) {
-    if (chart_->mouseDown(button, x, y) == ZoomOutcome::Refused) services_.beeper.beep();
+void frmFS9::beepIf(ZoomOutcome outcome) {
+    if (outcome == ZoomOutcome::Refused) services_.beeper.beep();
+}
+
+void frmFS9::Image1_MouseDown(int button, float x, float y) { beepIf(chart_->mouseDown(button, x, y)); }
+
+void frmFS9::Picture1_WheelTurned(const WheelTurn& turn) { beepIf(chart_->wheelTurned(turn)); }
+
+void frmFS9::Picture1_Dragged(Drag part, QPointF pointer) {
+    if (chart_) chart_->dragged(part, pointer); // a drag may end with the window
+}
+
+void frmFS9::Form_KeyDown(KeyDown& key) {
+    if (chart_) beepIf(chart_->keyDown(key));
 }
 
 void frmFS9::HScroll1_Scroll() { chart_->horizontalMoved(); }

@@ -35,6 +35,14 @@ struct FormDesign {
     Menus menus = Menus::PopUp;
 };
 
+/// A key that the focused control has left to its window.
+struct KeyDown {
+    int key; ///< a Qt::Key
+    Qt::KeyboardModifiers modifiers;
+    const QWidget* focus; ///< the focused control's widget; null when none has the focus
+    bool used = false;    ///< set by the window when the key meant something to it
+};
+
 /// A window that outlives its widgets: loading builds them, unloading destroys them, and what the window
 /// keeps in its own fields survives. A subclass declares its controls and wires them in build().
 class Form : public ResizableWindow {
@@ -106,6 +114,10 @@ protected:
     /// The pointer moved over a part of the window's inside that no control covers; (x, y) in the window's
     /// scale unit from the inside's top left corner.
     virtual void Form_MouseMove(int /*button*/, int /*shift*/, float /*x*/, float /*y*/) {}
+
+    /// A key that the focused control has no use for. What is pressed in a text box never comes here, be the
+    /// box locked.
+    virtual void Form_KeyDown(KeyDown& /*key*/) {}
 
     /// Puts the window, frame included, in the middle of a screen (logical pixels).
     void centreOn(const QRect& screen);

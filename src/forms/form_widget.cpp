@@ -4,9 +4,12 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPalette>
+#include <QPlainTextEdit>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -185,6 +188,14 @@ void FormWidget::mouseMoveEvent(QMouseEvent* event) {
     form_->Form_MouseMove(buttonCode(event->buttons()), shiftCode(event->modifiers()),
                           static_cast<float>(at.x() * unit().perPixelX),
                           static_cast<float>(at.y() * unit().perPixelY));
+}
+
+void FormWidget::keyPressEvent(QKeyEvent* event) {
+    const QWidget* const focus = focusWidget();
+    const bool typing = qobject_cast<const QPlainTextEdit*>(focus) || qobject_cast<const QLineEdit*>(focus);
+    KeyDown key{event->key(), event->modifiers(), focus == this ? nullptr : focus};
+    if (form_ != nullptr && !typing) form_->Form_KeyDown(key);
+    if (!key.used) QWidget::keyPressEvent(event);
 }
 
 void FormWidget::centreOuterFrame() {

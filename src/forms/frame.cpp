@@ -31,11 +31,6 @@ protected:
     }
 };
 
-ControlSpec opaque(ControlSpec spec) {
-    if (!spec.look.background.isValid()) spec.look.background = colour::face;
-    return spec;
-}
-
 } // namespace
 
 Frame::Frame(Container& container, const ControlSpec& spec)
@@ -51,9 +46,5 @@ Setting Frame::setCaption(const QString& text) {
     setSpokenName(text);
     return Setting::Done;
 }
-
-PictureBox::PictureBox(Container& container, const ControlSpec& spec, ScaleUnit inner)
-    : WidgetControl(container, opaque(spec), new QWidget),
-      Container(widget(), inner, container.controlList()) {}
 
 } // namespace quarvel

@@ -12,11 +12,4 @@ public:
     Setting setCaption(const QString& text) override;
 };
 
-/// A picture box: a plain area that clips the controls in it.
-class PictureBox : public WidgetControl, public Container {
-public:
-    /// `inner` is the unit in which the controls inside are measured.
-    PictureBox(Container& container, const ControlSpec& spec, ScaleUnit inner);
-};
-
 } // namespace quarvel

@@ -40,14 +40,21 @@ protected:
     void mousePressEvent(QMouseEvent* event) override {
         owner->mouseDown.raise(buttonCode(event->button()), static_cast<float>(event->position().x()),
                                static_cast<float>(event->position().y()));
+        leaveToBox(*event);
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
             owner->clicked.raise();
+        leaveToBox(*event);
     }
 
 private:
+    /// The middle button drags what lies in a picture box, and that is the box's own.
+    static void leaveToBox(QMouseEvent& event) {
+        if (event.button() == Qt::MiddleButton) event.ignore();
+    }
+
     /// Paints `part` (logical pixels of this widget) from the picture, at the screen's own pixels.
     void paintVisible(QPainter& painter, QRect part) {
         if (part.isEmpty()) return;

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QListView>
 #include <QMouseEvent>
+#include <algorithm>
 #include <utility>
 
 namespace quarvel {
@@ -35,6 +36,7 @@ class RowsView : public QListView {
 public:
     ListBox* owner = nullptr;
     RowsModel rows;
+    QString leftToWindow;
 
 protected:
     /// Every pointer action on a row selects it, whatever keys are held; one beside the rows selects nothing
@@ -62,8 +64,16 @@ protected:
     void keyPressEvent(QKeyEvent* event) override {
         const bool chooses =
             event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+        if (!event->text().isEmpty() && leftToWindow.contains(event->text())) {
+            event->ignore();
+            return;
+        }
         if (!chooses || !currentIndex().isValid()) {
             QListView::keyPressEvent(event);
+            // At its end, too, a list keeps the keys that look through it.
+            const auto keys = {Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
+            if (currentIndex().isValid() && std::find(keys.begin(), keys.end(), event->key()) != keys.end())
+                event->accept();
             return;
         }
         selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
@@ -86,6 +96,10 @@ ListBox::ListBox(Container& container, const ControlSpec& spec)
     view().setSelectionMode(QAbstractItemView::SingleSelection);
     view().setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     view().setTextElideMode(Qt::ElideRight);
+}
+
+void ListBox::leaveToWindow(const QString& characters) {
+    static_cast<RowsView&>(widget()).leftToWindow = characters;
 }
 
 QListView& ListBox::view() const { return static_cast<QListView&>(widget()); }

@@ -30,6 +30,9 @@ public:
     /// Selects a row, or none for -1, without a click.
     void select(int row);
 
+    /// Characters that look for no row but are the window's keys.
+    void leaveToWindow(const QString& characters);
+
     /// A row was clicked, the selected one included, or chosen with Return or the space bar.
     Event<> clicked;
     Event<> lostFocus; ///< the focus went to another control of the window

@@ -29,6 +29,11 @@ void applyLook(QWidget& widget, const Look& look) {
     widget.setPalette(palette);
 }
 
+ControlSpec opaque(ControlSpec spec) {
+    if (!spec.look.background.isValid()) spec.look.background = colour::face;
+    return spec;
+}
+
 WidgetControl::WidgetControl(Container& container, const ControlSpec& spec, QWidget* widget)
     : name_(QString::fromLatin1(spec.name)), index_(spec.index), widget_(widget), unit_(container.unit()) {
     widget_->setParent(&container.inside());

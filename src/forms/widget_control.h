@@ -26,6 +26,9 @@ struct ControlSpec {
     const char* picture = "";              ///< a compiled-in picture's name, for the kinds that show one
 };
 
+/// The row with a ground of the control's own, where it names none.
+[[nodiscard]] ControlSpec opaque(ControlSpec spec);
+
 /// A control that is a widget. It joins its window's control list when it is made, and stands behind those
 /// declared before it, as rows of a window's table do. The widget belongs to the container's.
 class WidgetControl : public Control {

@@ -43,6 +43,8 @@ void frmView::wire() {
     c->Command4.clicked.calls(this, &frmView::Command4_Click);
     c->cmdStampa.clicked.calls(this, &frmView::cmdStampa_Click);
     c->Image1.mouseDown.calls(this, &frmView::Image1_MouseDown);
+    c->Picture1.wheelTurned.calls(this, &frmView::Picture1_WheelTurned);
+    c->Picture1.dragged.calls(this, &frmView::Picture1_Dragged);
     c->HScroll1.scrolled.calls(this, &frmView::HScroll1_Scroll);
     c->HScroll1.changed.calls(this, &frmView::HScroll1_Change);
     c->VScroll1.scrolled.calls(this, &frmView::VScroll1_Scroll);
@@ -84,7 +86,12 @@ void frmView::giveSpokenNames() {
     c->Text1.setSpokenName(*c->Frame3.caption());
     c->Text2.setSpokenName(*c->Frame1.caption());
     c->Text3.setSpokenName(*c->Frame4.caption());
+    nameChart();
+}
+
+void frmView::nameChart() {
     c->Image1.setSpokenName(ChartName);
+    c->Picture1.setSpokenName(*c->Frame2.caption() + u' ' + ChartName);
 }
 
 void frmView::beepIf(ZoomOutcome outcome) {
@@ -96,6 +103,16 @@ void frmView::Command1_Click() { beepIf(chart_->zoomInByButton()); }
 void frmView::Command2_Click() { beepIf(chart_->zoomOutByButton()); }
 
 void frmView::Image1_MouseDown(int button, float x, float y) { beepIf(chart_->mouseDown(button, x, y)); }
+
+void frmView::Picture1_WheelTurned(const WheelTurn& turn) { beepIf(chart_->wheelTurned(turn)); }
+
+void frmView::Picture1_Dragged(Drag part, QPointF pointer) {
+    if (chart_) chart_->dragged(part, pointer); // a drag may end with the window
+}
+
+void frmView::Form_KeyDown(KeyDown& key) {
+    if (chart_) beepIf(chart_->keyDown(key));
+}
 
 void frmView::HScroll1_Scroll() { chart_->horizontalMoved(); }
 

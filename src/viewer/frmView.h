@@ -44,6 +44,7 @@ protected:
     void forgetControls() override;
     void Form_Load() override;
     void Form_Activate() override;
+    void Form_KeyDown(KeyDown& key) override;
     Closing Form_QueryUnload(UnloadReason reason) override;
     void giveSpokenNames() override;
 
@@ -55,10 +56,13 @@ private:
     void Command4_Click();
     void cmdStampa_Click();
     void Image1_MouseDown(int button, float x, float y);
+    void Picture1_WheelTurned(const WheelTurn& turn);
+    void Picture1_Dragged(Drag part, QPointF pointer);
     void HScroll1_Scroll();
     void HScroll1_Change();
     void VScroll1_Scroll();
     void VScroll1_Change();
+    void nameChart();
     void beepIf(ZoomOutcome outcome);
 
     // Families, charts and notes (frmView_charts.cpp)

@@ -83,7 +83,7 @@ void frmView::List1_Click() {
     ChartName = chart;
     state_.ChartFile = chartFileName(chart);
     chosenRow_ = c->List1.selectedRow();
-    c->Image1.setSpokenName(ChartName);
+    nameChart();
 }
 
 void frmView::keepChosenChart() {

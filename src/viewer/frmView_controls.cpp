@@ -2,6 +2,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace quarvel {
 namespace {
 
@@ -14,10 +16,11 @@ frmViewControls::frmViewControls(Container& window) : form(window) {
         notes->setLongestTyped(longestNote);
         notes->setEditing(Editing::Locked);
     }
+    List1.leaveToWindow(u"+-="_s);
     // From top to bottom, as the window reads.
-    const std::array<const WidgetControl*, 13> order = {
-        &Option1[0], &Option1[1], &Option1[2], &List1,   &Text2,    &Text1,   &Text3,
-        &Command2,   &Command1,   &cmdStampa,  &cmdSave, &Command3, &Command4};
+    const std::array<const WidgetControl*, 16> order = {
+        &Option1[0], &Option1[1], &Option1[2], &List1,    &Text2,    &Text1,    &Text3,    &Command2,
+        &Command1,   &cmdStampa,  &cmdSave,    &Command3, &Command4, &Picture1, &HScroll1, &VScroll1};
     for (std::size_t i = 1; i < order.size(); ++i)
         QWidget::setTabOrder(&order[i - 1]->widget(), &order[i]->widget());
 }

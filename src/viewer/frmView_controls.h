@@ -7,6 +7,7 @@
 #include "forms/image.h"
 #include "forms/label.h"
 #include "forms/list_box.h"
+#include "forms/picture_box.h"
 #include "forms/scroll_control.h"
 #include "forms/text_box.h"
 

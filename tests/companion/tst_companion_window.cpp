@@ -1,4 +1,4 @@
-#include "support/test_program.h"
+#include "support/chart_driver.h"
 
 #include <QAction>
 #include <QFile>
@@ -120,6 +120,32 @@ private Q_SLOTS:
         QCOMPARE(test->beeper.beeps, 1);
         window->resize(first);
         QTRY_COMPARE(image(*test)->geometry(), QRect(QPoint(-1, -1), chart));
+    }
+
+    void wheelDragAndKeysMoveTheChart() {
+        const auto test = companion();
+        QWidget* window = test->companionWindow();
+        const ChartDriver driver(window);
+        const QSize first = window->size();
+        ChartDriver::wheel(driver.image, {50, 50}, {0, -240});
+        QTest::keyClick(window, Qt::Key_Right);
+        QCOMPARE(image(*test)->pos(), QPoint(-11, -61));
+        QTest::keyClick(window, '+');
+        QCOMPARE(image(*test)->size(), QSize(1000, 1375));
+        // The layout puts the chart back; what is seen moves on from there.
+        window->resize(first + QSize(384, 0));
+        QTRY_COMPARE(image(*test)->geometry(), QRect(-2, -1, 1600, 1100));
+        ChartDriver::wheel(driver.frame, {50, 50}, {0, -120});
+        QCOMPARE(image(*test)->pos(), QPoint(-2, -31));
+        driver.hold({300, 300});
+        QCOMPARE(bar(*test, u"HScroll1"_s)[1], 1600 - 754); // pressing computes it anew
+        driver.moveTo({280, 290});
+        QCOMPARE(image(*test)->pos(), QPoint(-22, -41));
+        driver.release({280, 290});
+        // Its neighbours, the bars, keep the wheel.
+        ChartDriver::wheel(TestProgram::control(window, u"HScroll1"_s), {50, 5}, {0, 12000});
+        ChartDriver::wheel(TestProgram::control(window, u"HScroll1"_s), {50, 5}, {0, 120});
+        QCOMPARE(image(*test)->pos(), QPoint(-1, -41));
     }
 
     void minimisedLivesOnAsTheIcon() {

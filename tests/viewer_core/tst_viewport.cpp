@@ -34,6 +34,9 @@ Step in(float x, float y, ZoomBy by = ZoomBy::Mouse) {
 Step out(float x, float y) {
     return [=](Viewport& v) { QCOMPARE(v.zoomOut(x, y), ZoomOutcome::Done); };
 }
+Step pan(double left, double top) {
+    return [=](Viewport& v) { v.panTo(left, top); };
+}
 const Step recompute = [](Viewport& v) { v.Set_Scrolls(); };
 
 QString told(const ScrollBar& bar) {
@@ -119,6 +122,16 @@ private Q_SLOTS:
             {values(50, 0), place(-50, 0, 7, 600), recompute},
             u"7x600 at 0,-1 | 1..0@0 | 1..200@1 | zoom 0"_s);
         // 29993.5124, 84.5186; then 37500 x 125: the bar across keeps its range, the other is not reached.
+        row("pan", viewer, {load({800, 1100}), pan(-31, -101)},
+            u"800x1100 at -31,-101 | 1..794@31 | 1..1085@101 | zoom 0"_s);
+        row("pan as far as the ranges go", viewer, {load({800, 1100}), pan(-9000, 300)},
+            u"800x1100 at -794,-1 | 1..794@794 | 1..1085@1 | zoom 0"_s);
+        row("a disabled bar stays", companion, {load({300, 500}), pan(-31, -31)},
+            u"300x500 at -1,-31 | off 0..32767@1 | 1..67@31 | zoom 0"_s);
+        // The layout has put a chart back that was scrolled to 300 and 1: what is seen counts, not the value.
+        row("pan on from where the layout placed it", companion,
+            {load({800, 1100}), values(300, 1), place(-2, 0, 800, 1100), pan(-300, 5)},
+            u"800x1100 at -300,0 | 1..423@300 | 1..667@1 | zoom 0"_s);
         row("range beyond 16 bits across", viewer, {load({30000, 100}), in(600, 600)},
             u"37500x125 at -11,-11 | 1..29994@11 | 1..85@11 | zoom 1"_s);
     }

@@ -1,10 +1,16 @@
 #pragma once
 
-#include "forms/frame.h"
+#include "forms/form.h"
 #include "forms/image.h"
+#include "forms/picture_box.h"
 #include "forms/scroll_control.h"
 #include "pictures/picture.h"
+#include "viewer/viewport/chart_drag.h"
+#include "viewer/viewport/chart_keys.h"
 #include "viewer/viewport/viewport.h"
+#include "viewer/viewport/wheel_steps.h"
+
+#include <optional>
 
 namespace quarvel {
 
@@ -32,11 +38,30 @@ public:
     void horizontalMoved();
     void verticalMoved();
 
+    /// The wheel over the frame scrolls the chart or zooms it at the pointer, just as a click there would.
+    /// Refused once for a turn that was refused.
+    [[nodiscard]] ZoomOutcome wheelTurned(const WheelTurn& turn);
+    /// The middle button drags the chart. The press itself has come to mouseDown() before.
+    void dragged(Drag part, QPointF pointer);
+    /// A key that moves or zooms a chart, unless no chart is shown. The arrow keys are for the frame with the
+    /// focus, or for a window in which nothing has it; the others also for a window whose focused control has
+    /// left them.
+    [[nodiscard]] ZoomOutcome keyDown(KeyDown& key);
+
 private:
+    /// Scrolls by frame pixels, to the right and downwards.
+    void scrollBy(double across, double down);
+    /// Zooms by steps, above 0 in, at a point of the frame; where that is paper, at the point of the chart
+    /// next to it. Ends with the first step that is refused.
+    [[nodiscard]] ZoomOutcome zoomAt(QPointF point, int steps);
+    [[nodiscard]] ZoomOutcome doKey(ChartKey key);
+    void panTo(QPointF place);
+    [[nodiscard]] QPointF place() const { return {viewport_.left(), viewport_.top()}; }
     /// Takes over the measures as the controls have them now, runs a step of the arithmetic, and shows what
     /// it gave.
     template <class Step>
     auto run(Step step);
+    void takeMeasures();
     void show();
 
     PictureBox& frame_;
@@ -45,6 +70,8 @@ private:
     ScrollControl& vertical_;
     qint32& zoomLevel_;
     Viewport viewport_;
+    WheelSteps wheel_;
+    std::optional<ChartDrag> drag_; ///< while the middle button holds the chart
 };
 
 } // namespace quarvel

@@ -58,6 +58,18 @@ void Viewport::Axis::moveTo(qint16 value) {
     place = static_cast<float>(-value);
 }
 
+/// From where the chart stands, be it out of step with the value. A bound of the range may lie on the chart's
+/// other side then, and nothing moves the wrong way.
+void Viewport::Axis::panTo(double wanted) {
+    if (!bar.enabled) return;
+    const auto [lowest, highest] = std::minmax(bar.minimum, bar.maximum);
+    const double value = roundHalfEven(std::clamp<double>(-wanted, lowest, highest));
+    const auto from = static_cast<double>(place);
+    if ((wanted - from) * (-value - from) <= 0) return;
+    bar.value = static_cast<qint16>(value);
+    place = static_cast<float>(-value);
+}
+
 /// How much a click at this distance from the chart's edge (pixels) moves the value: a quarter of the
 /// distance, divided once more by the twips per pixel.
 double Viewport::Axis::zoomOffset(float point) const {
@@ -139,6 +151,11 @@ void Viewport::scrollAfterZoomOut(Axis& axis, float point) {
 void Viewport::setHorizontal(double value) { across_.changeValue(value); }
 
 void Viewport::setVertical(double value) { down_.changeValue(value); }
+
+void Viewport::panTo(double left, double top) {
+    across_.panTo(left);
+    down_.panTo(top);
+}
 
 void Viewport::place(float left, float top, float width, float height) {
     across_.place = left;

@@ -75,6 +75,10 @@ public:
     void setHorizontal(double value);
     void setVertical(double value);
 
+    /// Moves the chart to a place in the frame as far as the ranges allow, and the values with it; a
+    /// direction whose bar is disabled stays.
+    void panTo(double left, double top);
+
     /// Another hand (the proportional layout) placed the chart: position and size as given, the bars
     /// untouched.
     void place(float left, float top, float width, float height);
@@ -92,6 +96,7 @@ private:
         void keepValueInRange();
         void changeValue(double value);
         void moveTo(qint16 value);
+        void panTo(double wanted);
         [[nodiscard]] double zoomOffset(float point) const;
     };
 

@@ -1,12 +1,13 @@
 """The steps with the charts: choosing, reading, zooming, panning."""
 
-from accessible import above, expect
-from screen import click, click_at, difference, drag, prepare, press
+from accessible import Box, above, expect
+from screen import click, click_at, difference, drag, move_to, prepare, press, turn_wheel
 from stage import AIRPORT
 from windows import LARGER, SMALLER, natural_size
 
 FAMILIES = (("Star", 1, "0008"), ("Approach", 2, "0010"), ("Sid", 0, "0004"))  # folder, option, text of the count
 ARROW = 6  # pixels from a scroll bar's end to the middle of the arrow there
+NOTCH = 30  # pixels that a notch of the wheel scrolls
 THUMB = 26  # pixels from its beginning to the thumb, which lies just behind the first arrow
 
 
@@ -97,6 +98,57 @@ def pan(stage, chart):
             _pan_in_steps(stage, chart, bar_of)
         with stage.step(f"the scroll bar {way} moves the chart: dragged"):
             _pan_by_dragging(stage, chart, bar_of)
+
+
+def move_by_mouse(stage, chart):
+    viewer = stage.viewer
+    paper = viewer.paper()
+    at = paper.x + 200, paper.y + 300
+
+    def expect_values(*wanted):
+        expect("scroll values", lambda: tuple(bar.value for bar in viewer.bars()), wanted)
+        viewer.expect_follows(chart)
+
+    with stage.step("the wheel scrolls the chart, with Shift sideways"):
+        move_to(*at)
+        turn_wheel(-4)
+        expect_values(1, 1 + 4 * NOTCH)
+        turn_wheel(-3, key="shift")
+        turn_wheel(1)
+        expect_values(1 + 3 * NOTCH, 1 + 3 * NOTCH)
+    with stage.step("dragged by the middle button, the chart moves by just that way"):
+        part = Box(at[0] - 40, at[1] - 40, 80, 80)
+        before = stage.eyes.part(part, "grabbed")
+        drag(at, (at[0] - 57, at[1] + 33), button=2)
+        expect_values(1 + 3 * NOTCH + 57, 1 + 3 * NOTCH - 33)
+        part = Box(part.x - 57, part.y + 33, part.width, part.height)
+        expect("the grabbed part where it was let go", lambda: difference(before, stage.eyes.part(part)), 0)
+    with stage.step("the chart has the keys then: arrows scroll it, plus and minus zoom"):
+        press("Down", "Left")
+        expect_values(1 + 3 * NOTCH + 47, 1 + 3 * NOTCH - 23)
+        natural = natural_size(stage.airport.chart("Sid", chart))
+        press("plus")
+        viewer.expect_size(chart, LARGER, natural)
+        press("minus")
+        viewer.expect_size(chart, LARGER * SMALLER, natural)
+    with stage.step("the wheel with Control zooms just as a click at that point"):
+        stood = [_zoomed(stage, chart, at, by) for by in (click_at, _turn_with_control)]
+        expect("scroll values after the wheel and after the click", lambda: stood[1], stood[0])
+
+
+def _zoomed(stage, chart, at, by):
+    """The scroll values after zooming in at a point, from the chart's natural size."""
+    natural = natural_size(stage.airport.chart("Sid", chart))
+    stage.viewer.choose_chart(chart)
+    stage.viewer.expect_size(chart, 1, natural)
+    by(*at)
+    stage.viewer.expect_size(chart, LARGER, natural)
+    return [bar.value for bar in stage.viewer.bars()]
+
+
+def _turn_with_control(x, y):
+    move_to(x, y)
+    turn_wheel(1, key="ctrl")
 
 
 def _pan_in_steps(stage, chart, bar_of):

@@ -1,7 +1,7 @@
 """The steps with the companion window: above every other, resized, minimised to its icon and called back."""
 
 from accessible import above, expect
-from screen import active_states, click_at, minimise, press, resize_to, title
+from screen import active_states, click_at, drag, minimise, move_to, press, resize_to, title, turn_wheel
 from stage import AIRPORT
 from windows import LARGER, SMALLER, natural_size
 
@@ -51,6 +51,29 @@ def zoom_and_resize(stage, chart):
         stage.keep("13-ingrandita")
         resize_to(first.width, first.height + companion.menu_bar().height)
         companion.expect_picture(chart, natural)
+
+
+def move_by_mouse(stage, chart):
+    companion = stage.companion
+    natural = natural_size(stage.airport.chart("Sid", chart))
+    inside = companion.inside()
+    at = inside.x + 200, inside.y + 250
+
+    def place():
+        box = companion.picture_named(chart).box
+        return box.x - inside.x, box.y - inside.y
+
+    with stage.step("wheel, middle button and keys move the chart as in the viewer"):
+        x, y = place()
+        move_to(*at)
+        turn_wheel(-4)
+        expect("place of the chart after the wheel", place, (x, y - 120))
+        drag(at, (at[0] - 40, at[1] + 25), button=2)
+        expect("place of the chart after dragging", place, (x - 40, y - 95))
+        press("Right")
+        expect("place of the chart after an arrow key", place, (x - 50, y - 95))
+        turn_wheel(1, key="ctrl")
+        companion.expect_picture(chart, [side * LARGER for side in natural])
 
 
 def minimise_to_the_icon(stage, chart):

@@ -40,13 +40,19 @@ def click(thing):
     click_at(box.x + box.width // 2, box.y + box.height // 2)
 
 
-def drag(start, end):
-    """Holds the left button from one point to the other."""
+def turn_wheel(notches, *, key=None):
+    """Where the mouse is: above 0 away from the user; with a key held, if named."""
+    turns = ["click", "--repeat", abs(notches), "--delay", 20, 4 if notches > 0 else 5]
+    _run("xdotool", *(["keydown", key, *turns, "keyup", key] if key else turns))
+
+
+def drag(start, end, button=1):
+    """Holds a button from one point to the other."""
     move_to(*start)
-    _run("xdotool", "mousedown", 1)
+    _run("xdotool", "mousedown", button)
     move_to((start[0] + end[0]) / 2, (start[1] + end[1]) / 2)
     move_to(*end)
-    _run("xdotool", "mouseup", 1)
+    _run("xdotool", "mouseup", button)
 
 
 def title():

@@ -1,3 +1,5 @@
+#include "archive/program_folder.h"
+#include "archive/starter.h"
 #include "forms/look.h"
 #include "platform/desktop_notification_area.h"
 #include "platform/font_preparation.h"
@@ -21,6 +23,9 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false); // windows that wait behind others are only hidden
     quarvel::applyProgramLook(application);
 
+    const quarvel::ProgramFolder folder = quarvel::findProgramFolder(QApplication::applicationDirPath());
+    const quarvel::Result<void> laidOut = quarvel::layOutProgramFolder(folder);
+
     quarvel::QtMessageBoxes messageBoxes;
     quarvel::DesktopSoundPlayer sounds;
     quarvel::QtFormPrinter printer;
@@ -30,9 +35,10 @@ int main(int argc, char** argv) {
     quarvel::QtBeeper beeper;
     quarvel::DesktopNotificationArea notificationArea;
     quarvel::AirportPresenter presenter([] { return std::make_unique<quarvel::EspeakVoice>(); });
-    quarvel::Program program(QApplication::applicationDirPath(),
+    quarvel::Program program(folder.path,
                              {messageBoxes, sounds, printer, urls, screen, process, beeper, notificationArea},
                              presenter);
     program.show(quarvel::WindowName::frmMain);
+    if (!laidOut) program.tellLater(quarvel::Task::PrepareProgramFolder, laidOut.failure());
     return QApplication::exec();
 }

@@ -59,6 +59,10 @@ QString nameOnDisk(const QString& folder, const QString& name) {
     return alike.isEmpty() ? name : *std::min_element(alike.cbegin(), alike.cend());
 }
 
+bool isTaken(const QString& folder, const QString& name) {
+    return exists(folder + u'/' + nameOnDisk(folder, name));
+}
+
 QString resolvePath(const QString& root, const QString& relative) {
     QString path = root;
     while (path.size() > 1 && path.endsWith(u'/')) path.chop(1);

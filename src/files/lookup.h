@@ -14,6 +14,9 @@ namespace quarvel {
 /// that differs only in letter case, else `name` itself.
 [[nodiscard]] QString nameOnDisk(const QString& folder, const QString& name);
 
+/// Whether anything, be it a link to nothing, has a name in `folder`, letter case disregarded.
+[[nodiscard]] bool isTaken(const QString& folder, const QString& name);
+
 /// The path of `relative` ("aeroporti/LIRF/Sid") under `root`, each of its components taken as it is
 /// on the disk. Components that are not there yet are kept as written.
 [[nodiscard]] QString resolvePath(const QString& root, const QString& relative);

@@ -1,5 +1,7 @@
 #include "files/whole_file.h"
 
+#include "files/descriptor.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -16,26 +18,6 @@ Failure readFailure(const QString& path, int error) {
     return {error == ENOENT || error == ENOTDIR ? Fault::NotFound : Fault::Unreadable, path, {}};
 }
 
-Failure writeFailure(const QString& path, int error) {
-    const bool full = error == ENOSPC || error == EDQUOT || error == EFBIG;
-    return {full ? Fault::DiskFull : Fault::Unwritable, path, {}};
-}
-
-/// An open descriptor that closes itself.
-class Descriptor {
-public:
-    explicit Descriptor(int number) : number_(number) {}
-    ~Descriptor() {
-        if (number_ >= 0) ::close(number_);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    [[nodiscard]] int number() const { return number_; }
-
-private:
-    int number_;
-};
-
 /// Brings a file's new content to the disk under a temporary name. A file that is let go without being
 /// committed leaves no trace.
 Result<void> prepare(QSaveFile& file, const FileContent& content) {
@@ -50,6 +32,11 @@ Result<void> prepare(QSaveFile& file, const FileContent& content) {
 }
 
 } // namespace
+
+Failure writeFailure(const QString& path, int error) {
+    const bool full = error == ENOSPC || error == EDQUOT || error == EFBIG;
+    return {full ? Fault::DiskFull : Fault::Unwritable, path, {}};
+}
 
 Result<QByteArray> readWholeFile(const QString& path, qint64 limitBytes) {
     // Opened without blocking: a pipe without a writer would otherwise wait for one before it can be refused.

@@ -29,4 +29,7 @@ struct FileContent {
 /// self.
 [[nodiscard]] Result<void> writeWholeFiles(const std::vector<FileContent>& files);
 
+/// Why `path` could not be written or made, from the system's error number: DiskFull or Unwritable.
+[[nodiscard]] Failure writeFailure(const QString& path, int error);
+
 } // namespace quarvel

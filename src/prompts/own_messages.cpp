@@ -58,6 +58,8 @@ constexpr std::array messages = {
     OwnMessage{u"0144", u"&Incolla"},
     OwnMessage{u"0145", u"Elimina"},
     OwnMessage{u"0146", u"Seleziona tutto"},
+    // What was being done at the start.
+    OwnMessage{u"0147", u"La cartella del programma non può essere preparata."},
 };
 
 } // namespace

@@ -25,7 +25,8 @@ enum class Task {
     ChooseChartFirst = 119, ///< notes were to be saved without a chart of the list on show
     FindPrinter = 120,
     Print = 121,
-    SaveAirport = 122, ///< a new airport's data file and presenter text file
+    SaveAirport = 122,          ///< a new airport's data file and presenter text file
+    PrepareProgramFolder = 147, ///< at the start, from what the program was installed with
 };
 
 /// The window's own questions and messages, in the current language.

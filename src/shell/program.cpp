@@ -22,6 +22,10 @@ void Program::show(WindowName name) {
     form.show();
 }
 
+void Program::tellLater(Task task, const Failure& failure) {
+    QTimer::singleShot(0, &life_, [this, task, failure] { prompts_.tell(main_, task, failure); });
+}
+
 Form& Program::window(WindowName name) {
     switch (name) {
     case WindowName::frmMain: return main_;

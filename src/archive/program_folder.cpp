@@ -1,0 +1,41 @@
+#include "archive/program_folder.h"
+
+#include "archive/paths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+namespace {
+
+QString starterFolder(const QString& executableFolder) {
+    return QDir::cleanPath(executableFolder + u"/../share/quarvel/starter"_s);
+}
+
+} // namespace
+
+ProgramFolder chooseProgramFolder(const Surroundings& around) {
+    if (around.archiveBeside) return {around.executableFolder, {}};
+    if (around.starterInstalled || !around.executableFolderWritable)
+        return {QDir::cleanPath(around.userDataFolder + u"/quarvel"_s),
+                starterFolder(around.executableFolder)};
+    return {around.executableFolder, {}};
+}
+
+ProgramFolder findProgramFolder(const QString& executableFolder) {
+    Surroundings around;
+    around.executableFolder = executableFolder;
+    around.userDataFolder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    around.archiveBeside = QFileInfo(ArchivePaths(executableFolder).archiveFolder()).isDir();
+    around.starterInstalled = QFileInfo(starterFolder(executableFolder)).isDir();
+    around.executableFolderWritable =
+        ::access(QFile::encodeName(executableFolder).constData(), W_OK | X_OK) == 0;
+    return chooseProgramFolder(around);
+}
+
+} // namespace quarvel

@@ -1,0 +1,107 @@
+#include "archive/starter.h"
+
+#include "archive/paths.h"
+#include "files/lookup.h"
+#include "files/staging_folder.h"
+#include "files/whole_copy.h"
+#include "files/whole_file.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+#include <cerrno>
+#include <memory>
+#include <sys/stat.h>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+namespace {
+
+const QString archiveName = u"aeroporti"_s;
+
+/// Makes a folder where there is none. Those above it are made for the user alone, as is the custom for the
+/// folder of the user's data.
+Result<void> makeFolder(const QString& path, mode_t mode) { // NOLINT(misc-no-recursion)
+    const QFileInfo info(path);
+    if (info.isDir()) return {};
+    if (const QString above = info.path(); above != path)
+        if (Result<void> made = makeFolder(above, 0700); !made) return made;
+    if (::mkdir(QFile::encodeName(path).constData(), mode) == 0) return {};
+    const int error = errno;
+    if (QFileInfo(path).isDir()) return {}; // another start was quicker
+    return writeFailure(path, error);
+}
+
+/// What the starter has and the program folder lacks.
+struct Missing {
+    QStringList files;
+    bool archive = false;
+    [[nodiscard]] bool any() const { return archive || !files.isEmpty(); }
+};
+
+Result<Missing> findMissing(const ProgramFolder& folder) {
+    Missing missing;
+    missing.archive = !isTaken(folder.path, archiveName);
+    const Result<QStringList> files = listFiles(folder.starter);
+    if (!files) {
+        // An archive without a starter is what somebody else laid out: nothing is missing.
+        const bool complete = !missing.archive && files.failure().fault == Fault::NotFound;
+        return complete ? Result<Missing>(missing) : files.failure();
+    }
+    for (const QString& file : files.value())
+        if (!isTaken(folder.path, file)) missing.files.append(file);
+    return missing;
+}
+
+/// Makes the missing things one after the other in a staging folder, and moves each to its place.
+class LayingOut {
+public:
+    LayingOut(const ProgramFolder& folder, const StagingFolder& staging)
+        : folder_(folder), staging_(staging) {}
+
+    void layOut(const Missing& missing) {
+        for (const QString& name : missing.files)
+            place(name, copyWholeFile(folder_.starter + u'/' + name, staged(name)));
+        if (missing.archive)
+            place(archiveName,
+                  copyWholeFolder(ArchivePaths(folder_.starter).archiveFolder(), staged(archiveName)));
+        flushFolder(folder_.path);
+    }
+    [[nodiscard]] const Result<void>& result() const { return result_; }
+
+private:
+    [[nodiscard]] QString staged(const QString& name) const { return staging_.path() + u'/' + name; }
+
+    void place(const QString& name, Result<void> copied) {
+        if (copied) copied = moveToFreeName(staged(name), folder_.path + u'/' + name);
+        if (copied || !result_) return;
+        // The user knows of no staging folder: told is the place that was meant.
+        Failure failure = copied.failure();
+        failure.path.replace(staging_.path(), folder_.path);
+        result_ = std::move(failure);
+    }
+
+    const ProgramFolder& folder_;
+    const StagingFolder& staging_;
+    Result<void> result_;
+};
+
+} // namespace
+
+Result<void> layOutProgramFolder(const ProgramFolder& folder) {
+    if (folder.starter.isEmpty()) return {};
+    StagingFolder::clearLeftOvers(folder.path);
+    const Result<Missing> missing = findMissing(folder);
+    if (!missing) return missing.failure();
+    if (!missing.value().any()) return {};
+    if (Result<void> made = makeFolder(folder.path, 0777); !made) return made;
+    const auto staging = StagingFolder::make(folder.path);
+    if (!staging) return staging.failure();
+    LayingOut laying(folder, *staging.value());
+    laying.layOut(missing.value());
+    return laying.result();
+}
+
+} // namespace quarvel

@@ -17,6 +17,13 @@ QString starterFolder(const QString& executableFolder) {
     return QDir::cleanPath(executableFolder + u"/../share/quarvel/starter"_s);
 }
 
+/// Where programs keep their data for this user. XDG_DATA_HOME, given as a relative path, is invalid and to
+/// be ignored (the desktops' base directory rules, 0.8, "Basics"); Qt 6.4 would take it.
+QString userDataFolder() {
+    const QString named = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return QDir::isAbsolutePath(named) ? named : QDir::homePath() + u"/.local/share"_s;
+}
+
 } // namespace
 
 ProgramFolder chooseProgramFolder(const Surroundings& around) {
@@ -30,7 +37,7 @@ ProgramFolder chooseProgramFolder(const Surroundings& around) {
 ProgramFolder findProgramFolder(const QString& executableFolder) {
     Surroundings around;
     around.executableFolder = executableFolder;
-    around.userDataFolder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    around.userDataFolder = userDataFolder();
     around.archiveBeside = QFileInfo(ArchivePaths(executableFolder).archiveFolder()).isDir();
     around.starterInstalled = QFileInfo(starterFolder(executableFolder)).isDir();
     around.executableFolderWritable =

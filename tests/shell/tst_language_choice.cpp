@@ -109,6 +109,30 @@ private Q_SLOTS:
         QCOMPARE(test.program().state().MLSCurrentLanguage, QString());
     }
 
+    void failedStartIsToldInTheChosenLanguage() {
+        const Failure failure{Fault::Unwritable, u"/home/share"_s, {}};
+        struct Case {
+            QByteArray language; // empty: no language file, no setting
+            QString told;
+        };
+        for (const Case& start : {Case{"English", u"The program folder cannot be prepared."_s},
+                                  {"Italiano", u"La cartella del programma non può essere preparata."_s},
+                                  {"", u"La cartella del programma non può essere preparata."_s}}) {
+            TestProgram test;
+            test.write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=" + start.language + "\r\n");
+            if (start.language.isEmpty())
+                for (const QString& file : {u"English.lng"_s, u"Italiano.lng"_s, u"LangSetting.ini"_s})
+                    QVERIFY(QFile::remove(test.path(file)));
+            test.start();
+            test.boxes.shown.clear(); // without language files, a box says so
+            test.program().tellLater(Task::PrepareProgramFolder, failure);
+            QTRY_COMPARE(test.boxes.shown.size(), 1);
+            QVERIFY(test.boxes.shown.first().text.startsWith(start.told + u"\n\n"_s));
+            QVERIFY(test.boxes.shown.first().text.contains(failure.path));
+            QVERIFY(test.mainWindow()->isVisible());
+        }
+    }
+
     void noTwoButtonsOnShowShareAMnemonic() {
         const auto mnemonics = [](const QWidget* window) {
             QStringList keys;

@@ -1,0 +1,264 @@
+#include "archive/program_folder.h"
+#include "archive/starter.h"
+#include "files/staging_folder.h"
+#include "support/disk.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QTest>
+#include <csignal>
+#include <memory>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace quarvel;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int chartBytes = 100'000;
+
+mode_t modeOf(const QString& path) {
+    struct stat info {};
+    return ::lstat(QFile::encodeName(path).constData(), &info) == 0 ? info.st_mode & 0777U : 0;
+}
+
+/// Everything below a folder, hidden things and links to nothing included.
+QStringList treeOf(const QString& folder) {
+    QStringList found;
+    QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) found.append(QDir(folder).relativeFilePath(entries.next()));
+    found.sort();
+    return found;
+}
+
+/// Lays out in a process that the system kills as soon as it writes more than 4096 bytes to a file.
+bool isKilledLayingOut(const ProgramFolder& folder) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const rlimit none{0, 0};
+        ::setrlimit(RLIMIT_CORE, &none);
+        const rlimit limit{4096, 4096};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        std::signal(SIGXFSZ, SIG_DFL);
+        ::_exit(layOutProgramFolder(folder) ? 0 : 1);
+    }
+    int status = 0;
+    return ::waitpid(child, &status, 0) == child && WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ;
+}
+
+} // namespace
+
+/// Where the program folder is, and laying it out on real folders.
+class TestProgramFolder : public QObject {
+    Q_OBJECT
+
+    [[nodiscard]] QString at(const QString& name) const { return temp_->path() + u'/' + name; }
+    [[nodiscard]] QString laid(const QString& name) const { return folder_.path + u'/' + name; }
+
+    std::unique_ptr<QTemporaryDir> temp_;
+    ProgramFolder folder_;
+    const QStringList starterTree_ = {
+        u"English.lng"_s,    u"Italiano.lng"_s,   u"LangSetting.ini"_s,    u"aeroporti"_s,
+        u"aeroporti/LIML"_s, u"aeroporti/LIRF"_s, u"aeroporti/LIRF/Sid"_s, u"aeroporti/LIRF/Sid/kenn1.gif"_s};
+
+private Q_SLOTS:
+    /// An installed program whose user has no folder for data yet.
+    void init() {
+        temp_ = std::make_unique<QTemporaryDir>();
+        folder_ = {at(u"home/share/quarvel"_s), at(u"usr/share/quarvel/starter"_s)};
+        QVERIFY(QDir().mkpath(folder_.starter + u"/aeroporti/LIRF/Sid"_s));
+        QVERIFY(QDir().mkpath(folder_.starter + u"/aeroporti/LIML"_s));
+        for (const QString& name : {u"English.lng"_s, u"Italiano.lng"_s, u"LangSetting.ini"_s})
+            put(folder_.starter + u'/' + name, "shipped " + name.toLatin1());
+        put(folder_.starter + u"/aeroporti/LIRF/Sid/kenn1.gif"_s, QByteArray(chartBytes, 'c'));
+    }
+
+    void chosen_data() {
+        QTest::addColumn<bool>("archiveBeside");
+        QTest::addColumn<bool>("starterInstalled");
+        QTest::addColumn<bool>("writable");
+        QTest::addColumn<bool>("ownFolder");
+        QTest::newRow("an archive beside it makes it portable, even on a read-only disk")
+            << true << false << false << true;
+        QTest::newRow("an archive beside it goes before a starter") << true << true << true << true;
+        QTest::newRow("installed, the user's data folder") << false << true << false << false;
+        QTest::newRow("installed, and started by the administrator") << false << true << true << false;
+        QTest::newRow("where nothing can be written, the user's data folder")
+            << false << false << false << false;
+        QTest::newRow("neither: its own folder") << false << false << true << true;
+    }
+    void chosen() {
+        QFETCH(bool, archiveBeside);
+        QFETCH(bool, starterInstalled);
+        QFETCH(bool, writable);
+        QFETCH(bool, ownFolder);
+        const ProgramFolder chosen =
+            chooseProgramFolder({u"/opt/q/bin"_s, u"/h/share"_s, archiveBeside, starterInstalled, writable});
+        QCOMPARE(chosen.path, ownFolder ? u"/opt/q/bin"_s : u"/h/share/quarvel"_s);
+        QCOMPARE(chosen.starter, ownFolder ? QString() : u"/opt/q/share/quarvel/starter"_s);
+    }
+
+    void surroundingsAreLookedAt() {
+        const QString bin = at(u"usr/bin"_s);
+        QVERIFY(QDir().mkpath(bin));
+        qputenv("HOME", QFile::encodeName(at(u"home"_s)));
+        for (const char* unusable : {"", "relative/share"}) {
+            qputenv("XDG_DATA_HOME", unusable);
+            QCOMPARE(findProgramFolder(bin).path, at(u"home/.local/share/quarvel"_s));
+        }
+        qputenv("XDG_DATA_HOME", QFile::encodeName(at(u"home/share"_s)));
+        QCOMPARE(findProgramFolder(bin).path, folder_.path);
+        QCOMPARE(findProgramFolder(bin).starter, folder_.starter);
+        put(bin + u"/Aeroporti"_s);
+        QCOMPARE(findProgramFolder(bin).path, folder_.path); // no folder
+        QVERIFY(QFile::remove(bin + u"/Aeroporti"_s) && QDir().mkdir(bin + u"/Aeroporti"_s));
+        QCOMPARE(findProgramFolder(bin).path, bin);
+    }
+
+    void firstStartLaysOutEverythingForTheUserToWrite() {
+        for (const QString& name :
+             starterTree_) // the folders after what is in them: nothing is made in them here
+            ::chmod(QFile::encodeName(folder_.starter + u'/' + name).constData(),
+                    QFileInfo(folder_.starter + u'/' + name).isDir() ? 0555 : 0444);
+        const mode_t mask = ::umask(027);
+        const Result<void> result = layOutProgramFolder(folder_);
+        ::umask(mask);
+        for (const QString& name : starterTree_) // so that it can be removed
+            ::chmod(QFile::encodeName(folder_.starter + u'/' + name).constData(), 0755);
+        QVERIFY(result);
+        QCOMPARE(treeOf(folder_.path), starterTree_);
+        QCOMPARE(bytesOf(laid(u"English.lng"_s)), "shipped English.lng");
+        QCOMPARE(bytesOf(laid(u"aeroporti/LIRF/Sid/kenn1.gif"_s)), QByteArray(chartBytes, 'c'));
+        QCOMPARE(modeOf(laid(u"Italiano.lng"_s)), 0640U);
+        QCOMPARE(modeOf(laid(u"aeroporti/LIRF/Sid"_s)), 0750U);
+        QCOMPARE(modeOf(laid(u"aeroporti/LIRF/Sid/kenn1.gif"_s)), 0640U);
+        QCOMPARE(modeOf(folder_.path), 0750U);
+        QCOMPARE(modeOf(at(u"home/share"_s)), 0700U);
+    }
+
+    void laterStartBringsBackAFileButNoAirport() {
+        QVERIFY(layOutProgramFolder(folder_));
+        QVERIFY(QFile::remove(laid(u"Italiano.lng"_s)));
+        QVERIFY(QDir(laid(u"aeroporti/LIRF"_s)).removeRecursively());
+        QVERIFY(QDir(laid(u"aeroporti"_s)).rename(u"LIML"_s, u"LIMC"_s));
+        put(laid(u"English.lng"_s), "edited");
+        QVERIFY(layOutProgramFolder(folder_));
+        QCOMPARE(bytesOf(laid(u"Italiano.lng"_s)), "shipped Italiano.lng");
+        QCOMPARE(bytesOf(laid(u"English.lng"_s)), "edited");
+        QCOMPARE(treeOf(laid(u"aeroporti"_s)), QStringList{u"LIMC"_s});
+    }
+
+    void neverTouchesWhatHasTheName_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("kind");
+        for (const char* kind : {"file", "folder", "link", "link to nothing"}) {
+            QTest::addRow("a language file's name: %s", kind)
+                << u"English.lng"_s << QString::fromLatin1(kind);
+            QTest::addRow("the archive's name: %s", kind) << u"aeroporti"_s << QString::fromLatin1(kind);
+            QTest::addRow("in other letters: %s", kind) << u"AEROPORTI"_s << QString::fromLatin1(kind);
+        }
+    }
+    void neverTouchesWhatHasTheName() {
+        QFETCH(QString, name);
+        QFETCH(QString, kind);
+        QVERIFY(QDir().mkpath(folder_.path) && QDir().mkpath(at(u"target"_s)));
+        if (kind == u"file") put(laid(name), "mine");
+        if (kind == u"folder") QVERIFY(QDir().mkdir(laid(name)));
+        if (kind == u"link") QVERIFY(QFile::link(at(u"target"_s), laid(name)));
+        if (kind == u"link to nothing") QVERIFY(QFile::link(at(u"nothing"_s), laid(name)));
+        struct stat before {};
+        QCOMPARE(::lstat(QFile::encodeName(laid(name)).constData(), &before), 0);
+        QVERIFY(layOutProgramFolder(folder_));
+        struct stat after {};
+        QCOMPARE(::lstat(QFile::encodeName(laid(name)).constData(), &after), 0);
+        QCOMPARE(after.st_ino, before.st_ino);
+        QCOMPARE(after.st_mtim.tv_nsec, before.st_mtim.tv_nsec);
+        QVERIFY(treeOf(at(u"target"_s)).isEmpty() && !QFileInfo::exists(at(u"nothing"_s)));
+        QStringList kept = treeOf(folder_.path).filter(name, Qt::CaseInsensitive);
+        QCOMPARE(kept, QStringList{name});
+        QVERIFY(QFileInfo(laid(u"Italiano.lng"_s)).isFile()); // and the rest comes
+    }
+
+    void fullDiskLeavesWholeFilesAndNoArchive() {
+        Result<void> result;
+        {
+            const FileSizeLimit limit(4096);
+            result = layOutProgramFolder(folder_);
+        }
+        QVERIFY(!result && result.failure().fault == Fault::DiskFull);
+        QCOMPARE(result.failure().path, laid(u"aeroporti/LIRF/Sid/kenn1.gif"_s));
+        QCOMPARE(treeOf(folder_.path), starterTree_.mid(0, 3));
+        QVERIFY(layOutProgramFolder(folder_));
+        QCOMPARE(treeOf(folder_.path), starterTree_);
+    }
+
+    void whatAKilledStartLeavesIsClearedByTheNext() {
+        QVERIFY(isKilledLayingOut(folder_));
+        const QStringList left = treeOf(folder_.path);
+        QVERIFY(left.size() > 3 && !left.contains(u"aeroporti"_s)); // the test did kill it halfway
+        QVERIFY(layOutProgramFolder(folder_));
+        QCOMPARE(treeOf(folder_.path), starterTree_);
+
+        QVERIFY(QDir(laid(u"aeroporti"_s)).removeRecursively());
+        QVERIFY(isKilledLayingOut(folder_));
+        QVERIFY(QDir().mkdir(laid(u"aeroporti"_s))); // by the user: nothing is to be laid out any more
+        QVERIFY(layOutProgramFolder(folder_));
+        QCOMPARE(treeOf(folder_.path), starterTree_.mid(0, 4));
+    }
+
+    void startsAtOnceDoNoHarm() {
+        for (int round = 0; round < 20; ++round) {
+            Result<void> results[3];
+            {
+                const auto start = [&](int k) {
+                    return std::jthread(
+                        [&result = results[k], this] { result = layOutProgramFolder(folder_); });
+                };
+                const std::jthread starts[] = {start(0), start(1), start(2)};
+            }
+            for (const Result<void>& result : results) QVERIFY(result);
+            QCOMPARE(treeOf(folder_.path), starterTree_);
+            QCOMPARE(bytesOf(laid(u"aeroporti/LIRF/Sid/kenn1.gif"_s)).size(), chartBytes);
+            QVERIFY(QDir(folder_.path).removeRecursively());
+        }
+    }
+
+    void failuresNameThePlace_data() {
+        QTest::addColumn<QString>("spoiled");
+        QTest::addColumn<Fault>("fault");
+        QTest::addColumn<QString>("told");
+        QTest::newRow("a home that cannot be written") << u"home"_s << Fault::Unwritable << u"home"_s;
+        QTest::newRow("a folder's name that is taken")
+            << u"home/share/quarvel"_s << Fault::Unwritable << u"home/share/quarvel"_s;
+        QTest::newRow("a starter that is missing")
+            << u"usr/share/quarvel/starter"_s << Fault::NotFound << u"usr/share/quarvel/starter"_s;
+    }
+    /// A file where a folder should be refuses the administrator too.
+    void failuresNameThePlace() {
+        QFETCH(QString, spoiled);
+        QFETCH(Fault, fault);
+        QFETCH(QString, told);
+        QVERIFY(QDir().mkpath(at(u"home/share"_s)) && QDir(at(spoiled)).removeRecursively());
+        put(at(spoiled));
+        const Result<void> result = layOutProgramFolder(folder_);
+        QVERIFY(!result && result.failure().fault == fault);
+        QCOMPARE(result.failure().path, at(told));
+    }
+
+    void anArchiveWithoutAStarterIsComplete() {
+        QVERIFY(QDir(folder_.starter).removeRecursively());
+        QVERIFY(QDir().mkpath(laid(u"Aeroporti"_s)));
+        QVERIFY(layOutProgramFolder(folder_));
+        QCOMPARE(treeOf(folder_.path), QStringList{u"Aeroporti"_s});
+    }
+};
+
+QTEST_GUILESS_MAIN(TestProgramFolder)
+#include "tst_program_folder.moc"

@@ -38,7 +38,7 @@ int main(int argc, char** argv) {
     quarvel::Program program(folder.path,
                              {messageBoxes, sounds, printer, urls, screen, process, beeper, notificationArea},
                              presenter);
+    if (!laidOut) program.tell(quarvel::Task::PrepareProgramFolder, laidOut.failure());
     program.show(quarvel::WindowName::frmMain);
-    if (!laidOut) program.tellLater(quarvel::Task::PrepareProgramFolder, laidOut.failure());
     return QApplication::exec();
 }

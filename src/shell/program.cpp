@@ -22,9 +22,7 @@ void Program::show(WindowName name) {
     form.show();
 }
 
-void Program::tellLater(Task task, const Failure& failure) {
-    QTimer::singleShot(0, &life_, [this, task, failure] { prompts_.tell(main_, task, failure); });
-}
+void Program::tell(Task task, const Failure& failure) { prompts_.tell(main_, task, failure); }
 
 Form& Program::window(WindowName name) {
     switch (name) {

@@ -24,8 +24,9 @@ public:
     Program(const QString& programFolder, const Services& services, Presenter& presenter);
 
     void show(WindowName name) override;
-    /// Tells a failure of the start over the main window, as soon as events are handled.
-    void tellLater(Task task, const Failure& failure);
+    /// Tells a failure of the start, before the main window is shown: what the window goes on to say may
+    /// follow from it.
+    void tell(Task task, const Failure& failure);
     [[nodiscard]] std::vector<Form*> loaded() const override;
     void unloaded(Form& form) override;
 

@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QRegularExpression>
 
@@ -123,13 +124,17 @@ private Q_SLOTS:
             if (start.language.isEmpty())
                 for (const QString& file : {u"English.lng"_s, u"Italiano.lng"_s, u"LangSetting.ini"_s})
                     QVERIFY(QFile::remove(test.path(file)));
-            test.start();
-            test.boxes.shown.clear(); // without language files, a box says so
-            test.program().tellLater(Task::PrepareProgramFolder, failure);
-            QTRY_COMPARE(test.boxes.shown.size(), 1);
+            const QString folder = QFileInfo(test.path(u"LangSetting.ini"_s)).path();
+            Program program(folder,
+                            {test.boxes, test.sounds, test.printer, test.urls, test.screen, test.end,
+                             test.beeper, test.icons},
+                            test.presenter);
+            program.tell(Task::PrepareProgramFolder, failure);
+            QCOMPARE(test.boxes.shown.size(), 1);
             QVERIFY(test.boxes.shown.first().text.startsWith(start.told + u"\n\n"_s));
             QVERIFY(test.boxes.shown.first().text.contains(failure.path));
-            QVERIFY(test.mainWindow()->isVisible());
+            program.show(WindowName::frmMain); // it starts all the same
+            QVERIFY(program.mainWindow().window()->isVisible());
         }
     }
 

@@ -23,7 +23,7 @@ const QString archiveName = u"aeroporti"_s;
 
 /// Makes a folder where there is none. Those above it are made for the user alone, as is the custom for the
 /// folder of the user's data.
-Result<void> makeFolder(const QString& path, mode_t mode) { // NOLINT(misc-no-recursion)
+Result<void> makeFolder(const QString& path, mode_t mode) {
     const QFileInfo info(path);
     if (info.isDir()) return {};
     if (const QString above = info.path(); above != path)

@@ -41,7 +41,7 @@ Result<void> copyWholeFile(const QString& from, const QString& to) {
     return writeWholeFile(to, bytes.value());
 }
 
-Result<void> copyWholeFolder(const QString& from, const QString& to) { // NOLINT(misc-no-recursion)
+Result<void> copyWholeFolder(const QString& from, const QString& to) {
     // The list of a folder that cannot be read would come out empty.
     if (!QFileInfo(from).isDir()) return Failure{Fault::NotFound, from, {}};
     if (::access(QFile::encodeName(from).constData(), R_OK | X_OK) != 0)

@@ -214,7 +214,7 @@ private Q_SLOTS:
     }
 
     void startsAtOnceDoNoHarm() {
-        for (int round = 0; round < 20; ++round) {
+        for (int round = 0; round < 10; ++round) {
             Result<void> results[3];
             {
                 const auto start = [&](int k) {

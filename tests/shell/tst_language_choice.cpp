@@ -111,7 +111,7 @@ private Q_SLOTS:
     }
 
     void failedStartIsToldInTheChosenLanguage() {
-        const Failure failure{Fault::Unwritable, u"/home/share"_s, {}};
+        const Failure failure{Fault::Unwritable, u"/somewhere/share"_s, {}};
         struct Case {
             QByteArray language; // empty: no language file, no setting
             QString told;

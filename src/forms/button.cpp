@@ -75,9 +75,8 @@ private:
         face.setColorAt(0, top);
         face.setColorAt(1, bottom);
         painter.setBrush(face);
-        painter.setPen(hasFocus() ? QPen(QColor(58, 66, 160), 2) : QPen(QColor(130, 134, 176), 1));
-        const double inset = hasFocus() ? 1.0 : 0.5;
-        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), 4, 4);
+        painter.setPen(QColor(130, 134, 176));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
     }
 };
 

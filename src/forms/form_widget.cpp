@@ -1,5 +1,6 @@
 #include "forms/form_widget.h"
 
+#include "forms/focus_ring.h"
 #include "forms/look.h"
 
 #include <QCloseEvent>
@@ -60,6 +61,7 @@ FormWidget::FormWidget(Form& form, const FormDesign& design)
         menuBar_->setPalette(QGuiApplication::palette()); // not the colours of the window's inside
         menuBar_->setAutoFillBackground(true);
     }
+    new FocusRing(*this); // the window's own, as any child
     // Another program in between makes the next activation one from outside, whatever went before it.
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state != Qt::ApplicationActive && ownBoxes_ == 0) leftForOwnBox_ = false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "forms/accessible_role.h"
 #include "forms/container.h"
 #include "forms/form.h"
 
@@ -16,11 +17,12 @@ struct ControlListHolder {
 };
 
 /// The widget of a loaded window: it holds the control list and turns the toolkit's events into the window's.
-class FormWidget : public QWidget, private ControlListHolder, public Container {
+class FormWidget : public QWidget, public WithAccessibleRole, private ControlListHolder, public Container {
 public:
     FormWidget(Form& form, const FormDesign& design);
     ~FormWidget() override;
 
+    [[nodiscard]] QAccessible::Role accessibleRole() const override { return QAccessible::Window; }
     [[nodiscard]] const std::vector<Control*>& controls() const { return list; }
     /// Takes the struct of controls, which lives until the widgets are gone.
     void keep(std::shared_ptr<void> controls) { kept_ = std::move(controls); }

@@ -1,8 +1,11 @@
 #include "forms/image.h"
 
+#include "forms/accessible_role.h"
 #include "forms/compiled_pictures.h"
+#include "forms/press_key.h"
 #include "pictures/painter.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -19,11 +22,17 @@ int buttonCode(Qt::MouseButton button) {
     }
 }
 
-class ImageArea : public QWidget {
+class ImageArea : public QWidget, public WithAccessibleRole {
 public:
     Image* owner = nullptr;
     Picture picture;
     QPixmap compiled;
+
+    [[nodiscard]] QAccessible::Role accessibleRole() const override {
+        return focusPolicy() == Qt::NoFocus ? QAccessible::Graphic : QAccessible::Button;
+    }
+    [[nodiscard]] bool isPressable() const override { return focusPolicy() != Qt::NoFocus && isEnabled(); }
+    void press() override { owner->clicked.raise(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override {
@@ -47,6 +56,13 @@ protected:
         if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
             owner->clicked.raise();
         leaveToBox(*event);
+    }
+
+    void keyPressEvent(QKeyEvent* event) override {
+        if (isPressable() && isPressKey(*event))
+            press();
+        else
+            QWidget::keyPressEvent(event);
     }
 
 private:
@@ -83,6 +99,8 @@ Image::Image(Container& container, const ControlSpec& spec) : WidgetControl(cont
     setPicture(compiledDecoration(spec.picture));
     if (area.picture.isNull()) area.compiled = compiledPicture(spec.picture);
 }
+
+void Image::makeCommand() { widget().setFocusPolicy(Qt::TabFocus); }
 
 void Image::setPicture(const Picture& picture) {
     ImageArea& area = areaOf(*this);

@@ -16,6 +16,8 @@ public:
 
     /// Shows a picture stretched to the image's place.
     void setPicture(const Picture& picture);
+    /// Makes a command of it: the keyboard reaches it, and Space and Return click it.
+    void makeCommand();
 
     Event<> clicked; ///< the left button was released on it
     /// A button went down on it: 1 left, 2 right, 4 middle; the point in pixels from its top left corner.

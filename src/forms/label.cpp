@@ -1,11 +1,14 @@
 #include "forms/label.h"
 
+#include "forms/accessible_role.h"
+#include "forms/press_key.h"
+
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPalette>
 
 namespace quarvel {
-namespace {
 
 class MouseLabel : public QLabel {
 public:
@@ -25,9 +28,31 @@ protected:
     }
 };
 
+namespace {
+
+class LinkLabel : public MouseLabel, public WithAccessibleRole {
+public:
+    LinkLabel() { setFocusPolicy(Qt::TabFocus); }
+
+    [[nodiscard]] QAccessible::Role accessibleRole() const override { return QAccessible::Link; }
+    [[nodiscard]] bool isPressable() const override { return isEnabled(); }
+    void press() override { owner->clicked.raise(); }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (isPressKey(*event))
+            press();
+        else
+            MouseLabel::keyPressEvent(event);
+    }
+};
+
 } // namespace
 
-Label::Label(Container& container, const ControlSpec& spec) : WidgetControl(container, spec, new MouseLabel) {
+Label::Label(Container& container, const ControlSpec& spec) : Label(container, spec, new MouseLabel) {}
+
+Label::Label(Container& container, const ControlSpec& spec, MouseLabel* widget)
+    : WidgetControl(container, spec, widget) {
     static_cast<MouseLabel&>(label()).owner = this;
     label().setTextFormat(Qt::PlainText);
     label().setAlignment(spec.align);
@@ -50,6 +75,15 @@ void Label::setTextColour(const QColor& colour) {
     QPalette palette = label().palette();
     palette.setColor(QPalette::WindowText, colour);
     label().setPalette(palette);
+}
+
+Link::Link(Container& container, const ControlSpec& spec) : Label(container, spec, new LinkLabel) {
+    setSpokenName(*caption());
+}
+
+Setting Link::setCaption(const QString& text) {
+    setSpokenName(text);
+    return Label::setCaption(text);
 }
 
 } // namespace quarvel

@@ -7,6 +7,8 @@ class QLabel;
 
 namespace quarvel {
 
+class MouseLabel;
+
 /// A label; its text is centred, and wrapped where it does not fit in one line.
 class Label : public WidgetControl {
 public:
@@ -19,8 +21,18 @@ public:
     Event<> clicked;    ///< the left button was released on it
     Event<> mouseMoved; ///< the pointer moved over it
 
+protected:
+    Label(Container& container, const ControlSpec& spec, MouseLabel* widget);
+
 private:
     [[nodiscard]] QLabel& label() const;
+};
+
+/// A label that is a command: the keyboard reaches it too, and Space and Return click it.
+class Link : public Label {
+public:
+    Link(Container& container, const ControlSpec& spec);
+    Setting setCaption(const QString& text) override;
 };
 
 } // namespace quarvel

@@ -1,5 +1,7 @@
 #include "forms/list_box.h"
 
+#include "forms/press_key.h"
+
 #include <QAbstractListModel>
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -56,19 +58,25 @@ protected:
         QListView::mouseReleaseEvent(event);
         if (std::exchange(pressedOnRow_, false) && selectionModel()->hasSelection()) owner->clicked.raise();
     }
+    void focusInEvent(QFocusEvent* event) override {
+        // Whoever comes by keyboard finds a row to begin with.
+        const Qt::FocusReason reason = event->reason();
+        const bool byKeyboard = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                                reason == Qt::OtherFocusReason;
+        if (byKeyboard && !currentIndex().isValid()) owner->select(0);
+        QListView::focusInEvent(event);
+    }
     void focusOutEvent(QFocusEvent* event) override {
         QListView::focusOutEvent(event);
         if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
             owner->lostFocus.raise();
     }
     void keyPressEvent(QKeyEvent* event) override {
-        const bool chooses =
-            event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
         if (!event->text().isEmpty() && leftToWindow.contains(event->text())) {
             event->ignore();
             return;
         }
-        if (!chooses || !currentIndex().isValid()) {
+        if (!isPressKey(*event) || !currentIndex().isValid()) {
             QListView::keyPressEvent(event);
             // At its end, too, a list keeps the keys that look through it.
             const auto keys = {Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
@@ -87,7 +95,7 @@ private:
 } // namespace
 
 ListBox::ListBox(Container& container, const ControlSpec& spec)
-    : WidgetControl(container, spec, new RowsView) {
+    : WidgetControl(container, spec, new RowsView), hint_(*view().viewport()) {
     auto& rowsView = static_cast<RowsView&>(widget());
     rowsView.owner = this;
     view().setModel(&rowsView.rows);
@@ -106,10 +114,22 @@ QListView& ListBox::view() const { return static_cast<QListView&>(widget()); }
 
 void ListBox::setRows(int count, std::function<QString(int)> row) {
     static_cast<RowsView&>(widget()).rows.setRows(count, std::move(row));
+    showHint();
 }
 
 void ListBox::setItems(const QStringList& items) {
     setRows(static_cast<int>(items.size()), [items](int row) { return items.at(row); });
+}
+
+void ListBox::setHint(const QString& text) {
+    hintText_ = text;
+    showHint();
+}
+
+void ListBox::showHint() {
+    const QString text = count() == 0 ? hintText_ : QString();
+    hint_.showText(text);
+    widget().setAccessibleDescription(QString(text).remove(u'\u200B'));
 }
 
 int ListBox::count() const { return view().model()->rowCount(); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/event.h"
+#include "forms/hint.h"
 #include "forms/widget_control.h"
 
 #include <QString>
@@ -21,6 +22,9 @@ public:
     void setRows(int count, std::function<QString(int)> row);
     void setItems(const QStringList& items);
 
+    /// What the list says while it has no rows; an empty text says nothing.
+    void setHint(const QString& text);
+
     [[nodiscard]] int count() const;
     [[nodiscard]] QString item(int row) const;
     /// The text of the selected row; empty when none is.
@@ -38,7 +42,11 @@ public:
     Event<> lostFocus; ///< the focus went to another control of the window
 
 private:
+    void showHint();
     [[nodiscard]] QListView& view() const;
+
+    Hint hint_;
+    QString hintText_;
 };
 
 } // namespace quarvel

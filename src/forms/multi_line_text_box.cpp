@@ -37,7 +37,7 @@ protected:
     }
     void keyReleaseEvent(QKeyEvent* event) override {
         QPlainTextEdit::keyReleaseEvent(event);
-        if (!event->isAutoRepeat()) events_.keyUp.raise();
+        if (!event->isAutoRepeat()) events_.keyUp.raise(event->key());
     }
     void focusOutEvent(QFocusEvent* event) override {
         QPlainTextEdit::focusOutEvent(event);

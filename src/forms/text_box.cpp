@@ -66,7 +66,7 @@ protected:
     }
     void keyReleaseEvent(QKeyEvent* event) override {
         QLineEdit::keyReleaseEvent(event);
-        if (!event->isAutoRepeat()) events_.keyUp.raise();
+        if (!event->isAutoRepeat()) events_.keyUp.raise(event->key());
     }
     void focusOutEvent(QFocusEvent* event) override {
         QLineEdit::focusOutEvent(event);

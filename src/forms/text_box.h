@@ -15,7 +15,7 @@ enum class Editing { Free, Locked };
 /// What a text box of either kind tells its window.
 struct TextBoxEvents {
     Event<char16_t&> keyPress; ///< a character was typed; the handler may change it
-    Event<> keyUp;             ///< a key was released, whichever (not the repeats of a held key)
+    Event<int> keyUp;          ///< a key (Qt::Key) was released, whichever; not the repeats of a held one
     Event<> lostFocus;         ///< the focus went to another control of the window
 };
 

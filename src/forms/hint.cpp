@@ -1,0 +1,64 @@
+#include "forms/hint.h"
+
+#include "forms/widget_control.h"
+
+#include <QEvent>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+namespace {
+
+constexpr int room = 6; // pixels kept free around the text
+
+int pixels(double twips) { return static_cast<int>(twips / twipsPerPixel); }
+
+class HintLabel : public QLabel {
+public:
+    explicit HintLabel(QWidget& in) : QLabel(&in) {
+        setTextFormat(Qt::PlainText);
+        setAlignment(Qt::AlignCenter);
+        setWordWrap(true);
+        setMargin(room);
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        hide();
+    }
+
+    void fillParent() {
+        setGeometry(parentWidget()->rect());
+        parentWidget()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (watched == parent() && event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
+        return QLabel::eventFilter(watched, event);
+    }
+};
+
+} // namespace
+
+Hint::Hint(Container& container, const Place& place, const Look& look)
+    : label_(new HintLabel(container.inside())) {
+    label_->setGeometry(pixels(place.left), pixels(place.top), pixels(place.width), pixels(place.height));
+    applyLook(*label_, look);
+}
+
+Hint::Hint(QWidget& over) {
+    auto* const label = new HintLabel(over);
+    label->fillParent();
+    QFont font = over.font();
+    font.setBold(false);
+    label->setFont(font);
+    label_ = label;
+}
+
+void Hint::showText(const QString& text) {
+    label_->setText(text);
+    label_->setVisible(!text.isEmpty());
+}
+
+QString breakablePath(QString path) { return path.replace(u"/"_s, u"/\u200B"_s); }
+
+} // namespace quarvel

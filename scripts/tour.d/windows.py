@@ -46,8 +46,7 @@ class Window:
             item for item in list_of().children() if item.name == name], ONE)[0]
 
     def picture_named(self, name):
-        return expect(f"picture {name!r}", lambda: [
-            thing for role in ("filler", "image") for thing in self.shown.all(role, name)], ONE)[0]
+        return expect(f"picture {name!r}", lambda: self.shown.all("image", name), ONE)[0]
 
     def expect_picture(self, picture, wanted):
         """The picture has this width and height, to the pixel that rounding leaves open."""
@@ -127,7 +126,8 @@ class MainWindow(Window):
 
     def flag(self, index):
         """The picture that chooses a language: 0 for English, 1 for Italian."""
-        return self.picture_named(self.language.tool_tip(self.name, f"ImgLingua({index})"))
+        name = self.language.tool_tip(self.name, f"ImgLingua({index})")
+        return expect(f"flag {name!r}", lambda: self.shown.all("push button", name), ONE)[0]
 
     def picture(self):
         return self.place(PICTURE_PLACE)

@@ -121,6 +121,14 @@ void ArchiveListing::read(const QString& folder, std::string_view pattern) {
     }
 }
 
+ArchiveState archiveState(const QString& folder) {
+    const std::unique_ptr<DIR, DirCloser> dir(::opendir(QFile::encodeName(folder).constData()));
+    if (!dir) return ArchiveState::Unreadable;
+    while (const dirent* found = ::readdir(dir.get())) // NOLINT(concurrency-mt-unsafe): a stream of its own
+        if (found->d_name[0] != '.' && kindOf(dir.get(), *found) != Kind::Other) return ArchiveState::Filled;
+    return ArchiveState::Empty;
+}
+
 ArchiveListing::ArchiveListing(const QString& folder, const QString& typed) {
     if (typed.contains(u'/') || typed.contains(u'\\')) return;
     const QByteArray pattern = foldedText(typed);

@@ -7,6 +7,14 @@
 
 namespace quarvel {
 
+/// What can be said of an archive folder without listing it.
+enum class ArchiveState {
+    Filled,
+    Empty,      ///< no entry that a listing would show
+    Unreadable, ///< no folder, or one that may not be read
+};
+[[nodiscard]] ArchiveState archiveState(const QString& folder);
+
 /// The entries of the archive folder whose names begin with a typed text, by name without regard to case.
 /// Made for folders of 50,000 airports: names and kinds come from the directory itself, and a row's text is
 /// made when it is asked for.

@@ -1,10 +1,13 @@
 #include "companion/frmFS9.h"
 
 #include "platform/x11.h"
+#include "prompts/own_messages.h"
 #include "text/rounding.h"
 
 #include <QTimer>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace quarvel {
 namespace {
@@ -49,6 +52,7 @@ void frmFS9::Form_Load() {
     Resizer->setSourceForm(this);
     language_.MLSApplyLanguage(*this);
     if (c == nullptr) return;
+    giveSpokenNames();
     TwipsPerPixelX = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelX()));
     TwipsPerPixelY = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelY()));
     ZoomLevel = 0;
@@ -62,6 +66,12 @@ void frmFS9::Form_Load() {
     addIcon();
     state_.CompanionMode = showsChart;
     recordedWithoutPicture_ = LoadCompanionPicture() == Loaded::No;
+}
+
+void frmFS9::giveSpokenNames() {
+    if (c == nullptr) return;
+    c->HScroll1.setSpokenName(ownText(language_, u"0163"_s));
+    c->VScroll1.setSpokenName(ownText(language_, u"0164"_s));
 }
 
 void frmFS9::Form_Resize() {

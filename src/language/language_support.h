@@ -16,6 +16,8 @@ public:
     /// MLSCurrentLanguage, which must outlive this object.
     modLanguageSupport(QString programFolder, QString& currentLanguage);
 
+    [[nodiscard]] bool hasLanguage() const { return !MLSCurrentLanguage.isEmpty(); }
+
     /// The text of a numbered message ("0001") in the current language, or an empty text when it cannot be
     /// had. While no language is current, the setting file is asked for one first.
     [[nodiscard]] QString MLSGetString(const QString& number);

@@ -60,6 +60,24 @@ constexpr std::array messages = {
     OwnMessage{u"0146", u"Seleziona tutto"},
     // What was being done at the start.
     OwnMessage{u"0147", u"La cartella del programma non può essere preparata."},
+    // What stands where there is nothing else to see.
+    OwnMessage{u"0150", u"L'archivio è vuoto. Scrivi il nome del primo aeroporto e premi «CREA»."},
+    OwnMessage{u"0151", u"Scrivi l'inizio del nome: l'elenco segue ogni tasto. Poi un clic, oppure Freccia "
+                        u"giù e Invio, apre l'aeroporto."},
+    OwnMessage{u"0152", u"Nessun aeroporto comincia così. Correggi il nome, oppure premi «CREA» per "
+                        u"aggiungere un aeroporto nuovo."},
+    OwnMessage{u"0153", u"La cartella dell'archivio manca o non si può leggere:\n%1"},
+    OwnMessage{u"0154", u"Scegli qui sopra SID, STAR o APPROACH: le cartine appariranno in questo elenco."},
+    OwnMessage{
+        u"0155",
+        u"Nessuna cartina qui. Copia immagini GIF in questa cartella, poi scegli di nuovo la procedura:\n%1"},
+    OwnMessage{u"0156", u"Scegli una cartina dall'elenco: apparirà qui."},
+    // What assistive tools call what has no caption.
+    OwnMessage{u"0160", u"Foto dell'aeroporto"},
+    OwnMessage{u"0161", u"Decorazione"},
+    OwnMessage{u"0162", u"Cartina"},
+    OwnMessage{u"0163", u"Scorrimento orizzontale della cartina"},
+    OwnMessage{u"0164", u"Scorrimento verticale della cartina"},
 };
 
 } // namespace
@@ -73,6 +91,7 @@ QString builtInText(const QString& number) {
 }
 
 QString ownText(modLanguageSupport& language, const QString& number) {
+    if (!language.hasLanguage()) return builtInText(number);
     const QString found = language.MLSGetString(number).replace(u"\\n"_s, u"\n"_s);
     return found.isEmpty() ? builtInText(number) : found;
 }

@@ -53,31 +53,6 @@ void frmMain::Form_Activate() {
     if (c != nullptr && c->txtNomeAeroporto.isUsable()) c->txtNomeAeroporto.setFocus();
 }
 
-void frmMain::giveSpokenNames() {
-    if (c == nullptr) return;
-    const auto name = [this](int position, const Label& heading, const QString& row = {}) {
-        c->txtRwy[position].setSpokenName(*heading.caption() + row);
-    };
-    name(IcaoCode, c->Label2);
-    name(TransitionAltitude, c->Label11);
-    name(Longitude, c->Label3);
-    name(Latitude, c->Label4);
-    name(Elevation, c->Label5);
-    name(VorIdent, c->Label9);
-    name(VorFrequency, c->Label10);
-    name(NdbIdent, c->Label12);
-    name(NdbFrequency, c->Label13);
-    const std::array<const Label*, valuesPerRunwayRow> columns = {&c->Label6_0, &c->Label6_1, &c->Label6_2,
-                                                                  &c->Label7, &c->Label8};
-    for (int row = 0; row < runwayRows; ++row)
-        for (int column = 0; column < valuesPerRunwayRow; ++column)
-            name(runwayPosition(row, static_cast<RunwayColumn>(column)),
-                 *columns[static_cast<std::size_t>(column)], u" "_s + QString::number(row + 1));
-    c->txtNomeAeroporto.setSpokenName(*c->Label1.caption());
-    c->lstWords.setSpokenName(*c->Label16.caption());
-    c->ImgLingua.forEach([](int /*index*/, Image& flag) { flag.setSpokenName(*flag.toolTip()); });
-}
-
 void frmMain::setAirportDataShown(Shown shown) {
     c->Frame4.setShown(shown);
     c->Frame5.setShown(shown);
@@ -86,6 +61,7 @@ void frmMain::setAirportDataShown(Shown shown) {
         heading->setShown(shown);
     for (const int position : {Longitude, Latitude, Elevation, TransitionAltitude, IcaoCode})
         c->txtRwy[position].setShown(shown);
+    showSearchHint();
 }
 
 void frmMain::ShowAirportData() { setAirportDataShown(Shown::Yes); }

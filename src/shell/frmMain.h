@@ -56,6 +56,12 @@ private:
     void ClearAllFields();
     void setAirportDataShown(Shown shown);
 
+    // What assistive tools call the controls, and what stands where there is nothing (frmMain_words.cpp)
+    void showHints();
+    void showSearchHint();
+    [[nodiscard]] QString emptyListHint();
+    [[nodiscard]] QString hintFor(ArchiveState archive);
+
     // General commands (frmMain_commands.cpp)
     void cmdEsci_Click();
     void cmdInfo_Click();
@@ -79,7 +85,7 @@ private:
 
     // Search and opening (frmMain_opening.cpp)
     void txtNomeAeroporto_KeyPress(char16_t& key);
-    void txtNomeAeroporto_KeyUp();
+    void txtNomeAeroporto_KeyUp(int key);
     void lstWords_Click();
     void cmdElabora_Click();
     struct Before;

@@ -4,6 +4,7 @@
 #include "forms/control_array.h"
 #include "forms/frame.h"
 #include "forms/hidden_text_box.h"
+#include "forms/hint.h"
 #include "forms/image.h"
 #include "forms/label.h"
 #include "forms/list_box.h"
@@ -41,7 +42,7 @@ struct frmMainControls {
 
     Frame     fraMail     {form,      {.name = "fraMail", .place = {2520, 2160, 5175, 4335}, .caption = u"INFORMAZIONI", .shown = Shown::No, .look = {.weight = Weight::Bold, .text = QColor(255, 255, 0), .background = QColor(0, 0, 0)}}};
     Button    cmdEsciMail {fraMail,   {.name = "cmdEsciMail", .place = {3720, 3480, 855, 735}, .caption = u"&Chiudi", .toolTip = u"Chiudi la finestra", .picture = "esci_mail"}};
-    Label     Label15     {fraMail,   {.name = "Label15", .place = {0, 1200, 5175, 495}, .caption = u"supporto@quarvel.example", .look = addressLook}};
+    Link      Label15     {fraMail,   {.name = "Label15", .place = {0, 1200, 5175, 495}, .caption = u"supporto@quarvel.example", .look = addressLook}};
     Label     Label6_4    {fraMail,   {.name = "Label6", .index = 4, .place = {0, 1680, 5175, 2625}, .caption =
         u"e  farò del mio meglio per rispondervi o risolvere il problema al più presto possibile. ATTENZIONE!!! "
         u"Non utilizzate questo software per la navigazione reale.              "
@@ -92,6 +93,7 @@ struct frmMainControls {
 
     ServiceControl Agent  {form,      {.name = "Agent"}};
     struct Decorations { explicit Decorations(frmMainControls& all); } decorations {*this};
+    Hint searchHint {Frame1, {60, 1260, 4560, 960}, {.points = 9.75}}; // where the general data stand later
     Image     imgAeroporto {form,     {.name = "imgAeroporto", .place = {5400, 0, 4935, 8895}, .shown = Shown::No}};
 
     Menu      mnuLanguages {form,     {.name = "mnuLanguages", .caption = u"Lingua", .shown = Shown::No}};

@@ -1,5 +1,6 @@
 #include "viewer/frmView.h"
 
+#include "prompts/own_messages.h"
 #include "text/rounding.h"
 #include "text/strings.h"
 
@@ -58,9 +59,11 @@ void frmView::forgetControls() {
 
 void frmView::Form_Load() {
     chosenRow_ = -1;
+    chartChosen_ = false;
     language_.MLSApplyLanguage(*this);
     if (c == nullptr) return;
     giveSpokenNames();
+    c->Option1[0].setFocus(); // where the work begins
     TwipsPerPixelX = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelX()));
     TwipsPerPixelY = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelY()));
     chart_.emplace(c->Picture1, c->Image1, c->HScroll1, c->VScroll1,
@@ -86,12 +89,23 @@ void frmView::giveSpokenNames() {
     c->Text1.setSpokenName(*c->Frame3.caption());
     c->Text2.setSpokenName(*c->Frame1.caption());
     c->Text3.setSpokenName(*c->Frame4.caption());
+    c->HScroll1.setSpokenName(ownText(language_, u"0163"_s));
+    c->VScroll1.setSpokenName(ownText(language_, u"0164"_s));
     nameChart();
+    showHints();
 }
 
 void frmView::nameChart() {
-    c->Image1.setSpokenName(ChartName);
-    c->Picture1.setSpokenName(*c->Frame2.caption() + u' ' + ChartName);
+    const QString name = ChartName.isEmpty() ? ownText(language_, u"0162"_s) : ChartName;
+    c->Image1.setSpokenName(name);
+    c->Picture1.setSpokenName(name);
+}
+
+void frmView::showHints() {
+    if (!chartChosen_) c->chartHint.showText(ownText(language_, u"0156"_s));
+    const QString folder = c->File1.path();
+    c->List1.setHint(folder.isEmpty() ? ownText(language_, u"0154"_s)
+                                      : ownText(language_, u"0155"_s).arg(breakablePath(folder)));
 }
 
 void frmView::beepIf(ZoomOutcome outcome) {

@@ -63,6 +63,7 @@ private:
     void VScroll1_Scroll();
     void VScroll1_Change();
     void nameChart();
+    void showHints();
     void beepIf(ZoomOutcome outcome);
 
     // Families, charts and notes (frmView_charts.cpp)
@@ -85,6 +86,7 @@ private:
     const Services& services_;
 
     std::optional<ChartFrame> chart_; ///< while the window is loaded
+    bool chartChosen_ = false;        ///< a chart is on show since the window was loaded
     int chosenOption_ = -1;           ///< of the list on show; -1 once the options have been cleared
     int chosenRow_ = -1; ///< of the chart shown, in the list on show; -1 when it is none of this list
 };

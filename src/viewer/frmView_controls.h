@@ -4,6 +4,7 @@
 #include "forms/control_array.h"
 #include "forms/file_list_box.h"
 #include "forms/frame.h"
+#include "forms/hint.h"
 #include "forms/image.h"
 #include "forms/label.h"
 #include "forms/list_box.h"
@@ -42,6 +43,7 @@ struct frmViewControls {
     PictureBox   Picture1  {form,     {.name = "Picture1", .place = {5400, -240, 5955, 9165}, .look = {.background = colour::paper}}, scalePixels};
     ScrollControl HScroll1 {Picture1, {.name = "HScroll1", .place = {0, 8880, 5895, 255}}, Qt::Horizontal};
     ScrollControl VScroll1 {Picture1, {.name = "VScroll1", .place = {5640, 0, 255, 8895}}, Qt::Vertical};
+    Hint         chartHint {Picture1, {120, 3600, 5400, 1500}, {.points = 9.75}}; // until the first chart
     Image        Image1    {Picture1, {.name = "Image1", .place = {120, 0, 1260, 1410}, .usable = Usable::No}};
 
     Frame            Frame4 {form,    {.name = "Frame4", .place = {-120, 6240, 5535, 1455}, .look = bold}};

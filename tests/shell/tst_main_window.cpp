@@ -1,5 +1,6 @@
 #include "support/test_program.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -19,7 +20,7 @@ private Q_SLOTS:
             if (child->isVisible() && !child->objectName().startsWith(u"Image1"_s))
                 shown.append(child->objectName());
         shown.sort();
-        QCOMPARE(shown, QStringList({u"Frame1"_s, u"Frame2"_s}));
+        QCOMPARE(shown, QStringList({u"Frame1"_s, u"Frame2"_s, u"focusRing"_s}));
         QVERIFY(!TestProgram::control(test.mainWindow(), u"cmdElabora"_s)->isEnabled());
         QVERIFY(TestProgram::control<QLineEdit>(test.mainWindow(), u"txtRwy(0)"_s)->isReadOnly());
         // Twips / 15, inside the container.
@@ -99,6 +100,46 @@ private Q_SLOTS:
         QTRY_COMPARE(address->palette().color(QPalette::WindowText), QColor(255, 0, 0));
         TestProgram::click(test.mainWindow(), u"Label15"_s);
         QCOMPARE(test.urls.opened, QStringList(u"mailto:"_s + address->text()));
+    }
+
+    void theFocusIsSeenAroundWhateverHasIt() {
+        TestProgram test;
+        test.startWith(u"LIRF"_s);
+        QWidget* window = test.mainWindow();
+        QWidget* ring = TestProgram::control(window, u"focusRing"_s);
+        for (const auto& name : {u"cmdGrafica"_s, u"txtRwy(38)"_s, u"txtRwy(32)"_s}) {
+            QWidget* control = TestProgram::control(window, name);
+            control->setFocus(Qt::TabFocusReason);
+            const QRect place(control->mapTo(window, QPoint()), control->size());
+            QVERIFY2(ring->isVisible() && ring->geometry().contains(place & window->rect()),
+                     qPrintable(name));
+            QVERIFY(!ring->mask().intersects(place.translated(-ring->pos()).adjusted(3, 3, -3, -3)));
+        }
+        TestProgram::control(window, u"Frame4"_s)->hide();
+        QVERIFY(window->focusWidget() == nullptr || window->focusWidget()->isVisible());
+    }
+
+    void flagsAndSupportAddressAreCommandsForTheKeyboardToo() {
+        TestProgram test;
+        test.start();
+        QWidget* window = test.mainWindow();
+        const auto roleOf = [&](const QString& name) {
+            return QAccessible::queryAccessibleInterface(TestProgram::control(window, name))->role();
+        };
+        QTest::keyClick(TestProgram::control(window, u"ImgLingua(0)"_s), Qt::Key_Space);
+        QCOMPARE(test.program().state().MLSCurrentLanguage, u"English"_s);
+        QTest::keyClick(TestProgram::control(window, u"ImgLingua(1)"_s), Qt::Key_Return);
+        QCOMPARE(test.program().state().MLSCurrentLanguage, u"Italiano"_s);
+        QTest::keyClick(TestProgram::control(window, u"Label15"_s), Qt::Key_Return);
+        QCOMPARE(test.urls.opened.size(), 1);
+        QCOMPARE(roleOf(u"ImgLingua(0)"_s), QAccessible::Button);
+        QCOMPARE(roleOf(u"Image1(3)"_s), QAccessible::Graphic);
+        QCOMPARE(roleOf(u"Label15"_s), QAccessible::Link);
+        QCOMPARE(QAccessible::queryAccessibleInterface(window)->role(), QAccessible::Window);
+        QAccessible::queryAccessibleInterface(TestProgram::control(window, u"ImgLingua(0)"_s))
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::pressAction());
+        QCOMPARE(test.program().state().MLSCurrentLanguage, u"English"_s);
     }
 
     void chartsCommandPlaysUnloadsAndShowsTheViewer() {

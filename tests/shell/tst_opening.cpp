@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLabel>
 #include <QLineEdit>
 
 using namespace quarvel;
@@ -38,6 +39,45 @@ private Q_SLOTS:
         QCOMPARE(TestProgram::rows(test.mainWindow(), u"lstWords"_s).size(), 3);
         for (int i = 0; i < 2; ++i) QTest::keyClick(box, Qt::Key_Backspace);
         QCOMPARE(TestProgram::rows(test.mainWindow(), u"lstWords"_s).size(), 4);
+    }
+
+    void whereThereIsNothingTheWindowSaysWhatToDo() {
+        TestProgram test;
+        test.start();
+        QWidget* window = test.mainWindow();
+        const auto says = [&](const QString& control, const QString& words) {
+            for (const QLabel* label : TestProgram::control(window, control)->findChildren<QLabel*>())
+                if (label->isVisible() && label->text().contains(words)) return true;
+            return false;
+        };
+        QVERIFY(says(u"Frame1"_s, u"primo aeroporto"_s));
+        test.type(u"LI"_s);
+        QVERIFY(says(u"lstWords"_s, u"primo aeroporto"_s));
+        QDir().mkdir(test.path(u"aeroporti/LIRF"_s));
+        test.type(u"X"_s);
+        QVERIFY(says(u"lstWords"_s, u"Nessun aeroporto comincia"_s));
+        test.program().mainWindow().SelectLanguage(0);
+        QVERIFY(says(u"lstWords"_s, u"No airport begins"_s) && says(u"Frame1"_s, u"Type the beginning"_s));
+        QTest::keyClick(TestProgram::control(window, u"txtNomeAeroporto"_s), Qt::Key_Backspace);
+        QVERIFY(!says(u"lstWords"_s, QString()));
+        QVERIFY(QDir().rename(test.path(u"aeroporti"_s), test.path(u"away"_s)));
+        test.type(u"Y"_s);
+        QVERIFY(says(u"lstWords"_s, u"cannot be read"_s));
+    }
+
+    void theKeyboardAloneOpensAnAirport() {
+        TestProgram test;
+        test.addAirport(u"LIMC"_s);
+        test.addAirport(u"LIRF"_s);
+        test.start();
+        test.type(u"li"_s);
+        QWidget* list = TestProgram::control(test.mainWindow(), u"lstWords"_s);
+        QTest::keyClick(test.mainWindow()->focusWidget(), Qt::Key_Down);
+        QCOMPARE(test.mainWindow()->focusWidget(), list);
+        QTest::keyClick(list, Qt::Key_Down);
+        QTest::keyClick(list, Qt::Key_Return);
+        QCOMPARE(text(test.mainWindow(), u"txtNomeAeroporto"_s), u"LIRF"_s);
+        QVERIFY(visible(test.mainWindow(), u"Frame4"_s));
     }
 
     void anAirportFromTheListIsShown() {

@@ -45,6 +45,22 @@ private:
     }
 
 private Q_SLOTS:
+    void whereThereIsNothingTheViewerSaysWhatToDo() {
+        const auto test = viewer();
+        QWidget* window = test->viewWindow();
+        const auto hint = [&](const QString& control) {
+            for (const QLabel* label : TestProgram::control(window, control)->findChildren<QLabel*>())
+                if (label->isVisible()) return label->text().remove(QChar(0x200B));
+            return QString();
+        };
+        QVERIFY(hint(u"List1"_s).contains(u"SID, STAR"_s) && hint(u"Picture1"_s).contains(u"elenco"_s));
+        QVERIFY(QFile::remove(test->path(u"aeroporti/LIRF/Star/arrivo.gif"_s)));
+        TestProgram::click(window, u"Option1(1)"_s);
+        QVERIFY(hint(u"List1"_s).contains(test->path(u"aeroporti/LIRF/Star"_s)));
+        choose(*test, u"Option1(0)"_s, 1);
+        QCOMPARE(hint(u"List1"_s) + hint(u"Picture1"_s), QString());
+    }
+
     void familiesFillListCountAndFramesUnlessMissing() {
         const auto test = viewer();
         QWidget* window = test->viewWindow();

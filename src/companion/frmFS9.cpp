@@ -52,7 +52,7 @@ void frmFS9::Form_Load() {
     Resizer->setSourceForm(this);
     language_.MLSApplyLanguage(*this);
     if (c == nullptr) return;
-    giveSpokenNames();
+    giveOwnTexts();
     TwipsPerPixelX = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelX()));
     TwipsPerPixelY = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelY()));
     ZoomLevel = 0;
@@ -68,7 +68,7 @@ void frmFS9::Form_Load() {
     recordedWithoutPicture_ = LoadCompanionPicture() == Loaded::No;
 }
 
-void frmFS9::giveSpokenNames() {
+void frmFS9::giveOwnTexts() {
     if (c == nullptr) return;
     c->HScroll1.setSpokenName(ownText(language_, u"0163"_s));
     c->VScroll1.setSpokenName(ownText(language_, u"0164"_s));

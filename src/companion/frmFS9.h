@@ -41,7 +41,7 @@ protected:
     void Form_MouseMove(int button, int shift, float x, float y) override;
     Closing Form_QueryUnload(UnloadReason reason) override;
     void Form_Unload() override;
-    void giveSpokenNames() override;
+    void giveOwnTexts() override;
 
 private:
     // What `CompanionMode` says.

@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QMenuBar>
 #include <QPainter>
 #include <algorithm>
 
@@ -17,6 +16,7 @@ constexpr int dark = 2;  // pixels of the outer colour
 constexpr int light = 1; // and of the inner one
 constexpr int thickness = dark + light;
 constexpr QLatin1StringView ringName("focusRing");
+constexpr const char* ownMark = "quarvelMarksItsFocus";
 
 QRect grown(const QRect& control) { return control.adjusted(-thickness, -thickness, thickness, thickness); }
 
@@ -33,6 +33,8 @@ bool hasRoomAround(const QWidget& control) {
 
 } // namespace
 
+void marksItsFocus(QWidget& widget) { widget.setProperty(ownMark, true); }
+
 FocusRing::FocusRing(QWidget& window) : QWidget(&window) {
     setObjectName(ringName);
     setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -44,9 +46,8 @@ FocusRing::FocusRing(QWidget& window) : QWidget(&window) {
 
 void FocusRing::follow(QWidget* focused) {
     if (focused_ != nullptr) focused_->removeEventFilter(this);
-    // An open menu bar shows by itself where the keyboard is.
-    const bool inside = focused != nullptr && parentWidget()->isAncestorOf(focused) &&
-                        qobject_cast<QMenuBar*>(focused) == nullptr;
+    const bool inside =
+        focused != nullptr && parentWidget()->isAncestorOf(focused) && !focused->property(ownMark).toBool();
     focused_ = inside ? focused : nullptr;
     if (focused_ != nullptr) focused_->installEventFilter(this);
     surround();

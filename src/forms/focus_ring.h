@@ -5,6 +5,9 @@
 
 namespace quarvel {
 
+/// Leaves a widget without a ring: it shows by itself that it has the focus.
+void marksItsFocus(QWidget& widget);
+
 /// Shows which control of a window has the keyboard: a ring of two colours, dark outside and light inside, so
 /// that it is seen on every background. It lies around the control, or on its edge where a neighbour is too
 /// near.

@@ -80,8 +80,9 @@ public:
     /// The window on the screen; none while it is not loaded.
     [[nodiscard]] QWidget* window() const;
 
-    /// Gives the controls the names that assistive tools read, from the texts now on the window.
-    virtual void giveSpokenNames() {}
+    /// Puts on the window what its section of the language file does not hold: the names that assistive tools
+    /// read and the hints. Follows every pass of a language.
+    virtual void giveOwnTexts() {}
 
     /// Whether the window shows a box of its own.
     [[nodiscard]] bool hasOwnBox() const;

@@ -60,6 +60,7 @@ FormWidget::FormWidget(Form& form, const FormDesign& design)
         menuBar_->setNativeMenuBar(false);
         menuBar_->setPalette(QGuiApplication::palette()); // not the colours of the window's inside
         menuBar_->setAutoFillBackground(true);
+        marksItsFocus(*menuBar_);
     }
     new FocusRing(*this); // the window's own, as any child
     // Another program in between makes the next activation one from outside, whatever went before it.

@@ -1,5 +1,8 @@
 #include "forms/picture_box.h"
 
+#include "forms/accessible_role.h"
+#include "forms/focus_ring.h"
+
 #include <QEnterEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
@@ -30,11 +33,15 @@ protected:
     }
 };
 
-class PictureArea : public QWidget {
+class PictureArea : public QWidget, public WithAccessibleRole {
 public:
     PictureBox* owner = nullptr;
 
-    PictureArea() { setFocusPolicy(Qt::StrongFocus); }
+    PictureArea() {
+        setFocusPolicy(Qt::StrongFocus);
+        marksItsFocus(*this);
+    }
+    [[nodiscard]] QAccessible::Role accessibleRole() const override { return QAccessible::Pane; }
 
 protected:
     void wheelEvent(QWheelEvent* event) override {

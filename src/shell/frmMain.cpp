@@ -45,7 +45,7 @@ void frmMain::Form_Load() {
     refusedDesignator_ = false;
     MLSFillMenuLanguages();
     language_.MLSApplyLanguage(*this);
-    giveSpokenNames();
+    giveOwnTexts();
     centreOn(services_.screen.whole());
 }
 

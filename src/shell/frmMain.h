@@ -43,7 +43,7 @@ protected:
     void wire() override;
     void Form_Load() override;
     void Form_Activate() override;
-    void giveSpokenNames() override;
+    void giveOwnTexts() override;
 
 private:
     // Window states (frmMain.cpp)

@@ -55,7 +55,7 @@ void frmMain::SelectLanguage(int index) {
         language_.MLSApplyLanguage(*form);
         // Another choice made in the middle of this one has done all of it already.
         if (state_.MLSCurrentLanguage != language) return;
-        form->giveSpokenNames();
+        form->giveOwnTexts();
     }
     // The item's caption is taken again: the language file may have renamed the item meanwhile.
     language_.writeSettingLanguage(c != nullptr ? *c->mnuLanguage[index].caption() : language);

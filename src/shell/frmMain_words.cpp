@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace quarvel {
 
-void frmMain::giveSpokenNames() {
+void frmMain::giveOwnTexts() {
     if (c == nullptr) return;
     const auto name = [this](int position, const Label& heading, const QString& row = {}) {
         c->txtRwy[position].setSpokenName(*heading.caption() + row);

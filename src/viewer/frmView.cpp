@@ -62,7 +62,7 @@ void frmView::Form_Load() {
     chartChosen_ = false;
     language_.MLSApplyLanguage(*this);
     if (c == nullptr) return;
-    giveSpokenNames();
+    giveOwnTexts();
     c->Option1[0].setFocus(); // where the work begins
     TwipsPerPixelX = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelX()));
     TwipsPerPixelY = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelY()));
@@ -83,7 +83,7 @@ Closing frmView::Form_QueryUnload(UnloadReason reason) {
     return reason == UnloadReason::ControlMenu ? Closing::Cancel : Closing::GoAhead;
 }
 
-void frmView::giveSpokenNames() {
+void frmView::giveOwnTexts() {
     if (c == nullptr) return;
     c->List1.setSpokenName(*c->Frame2.caption());
     c->Text1.setSpokenName(*c->Frame3.caption());

@@ -46,7 +46,7 @@ protected:
     void Form_Activate() override;
     void Form_KeyDown(KeyDown& key) override;
     Closing Form_QueryUnload(UnloadReason reason) override;
-    void giveSpokenNames() override;
+    void giveOwnTexts() override;
 
 private:
     // Commands (frmView.cpp)

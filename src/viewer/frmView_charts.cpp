@@ -44,7 +44,7 @@ void frmView::Option1_Click(int index) {
     chosenOption_ = index;
     FamilyMode = family;
     setFamilyTexts(family);
-    giveSpokenNames();
+    giveOwnTexts();
 }
 
 void frmView::setFamilyTexts(Family family) {

@@ -9,6 +9,7 @@ import sys
 import airport_steps
 import chart_steps
 import companion_steps
+import english_pictures
 import entry_steps
 import note_steps
 import presenter_steps
@@ -35,6 +36,7 @@ def main(stage):
     airport_steps.go_back(stage)
     airport_steps.switch_language(stage)
     airport_steps.close(stage)
+    english_pictures.take(stage)
     entry_steps.type_a_new_airport(stage)
     entry_steps.save_it(stage)
     entry_steps.find_it_again(stage)

@@ -116,7 +116,7 @@ class Eyes:
     def corner(self, path):
         """The lower right corner of the screen, where the notification area is, as a small picture file."""
         width, height = (int(side) for side in _run("xdotool", "getdisplaygeometry").split())
-        cut_width, cut_height = 420 * SCALE, 260 * SCALE
+        cut_width, cut_height = 420 * SCALE, 170 * SCALE  # clear of the presenter, who may still be reading
         corner = self.still(f"{cut_width}x{cut_height}+{width - cut_width}+{height - cut_height}")
         _save(corner, path)
 

@@ -7,7 +7,7 @@ from pathlib import Path
 
 from accessible import Unexpected
 
-SCALE = int(os.environ.get("QT_SCALE_FACTOR", "1"))  # screen pixels in one of the program's pixels
+SCALE = float(os.environ.get("QT_SCALE_FACTOR", "1"))  # screen pixels in one of the program's pixels
 
 
 def _run(*command):
@@ -109,14 +109,14 @@ class Eyes:
     def part(self, box, name="part"):
         """The pixels of a box, in screen pixels."""
         path = self._scratch / f"{name}.png"
-        crop = f"{box.width * SCALE}x{box.height * SCALE}+{box.x * SCALE}+{box.y * SCALE}"
-        _run("convert", self.whole(), "-crop", crop, "+repage", path)
+        _run("convert", self.whole(), "-crop", _crop(box), "+repage", path)
         return path
 
     def corner(self, path):
         """The lower right corner of the screen, where the notification area is, as a small picture file."""
         width, height = (int(side) for side in _run("xdotool", "getdisplaygeometry").split())
-        cut_width, cut_height = 420 * SCALE, 170 * SCALE  # clear of the presenter, who may still be reading
+        # clear of the presenter, who may still be reading
+        cut_width, cut_height = round(420 * SCALE), round(170 * SCALE)
         corner = self.still(f"{cut_width}x{cut_height}+{width - cut_width}+{height - cut_height}")
         _save(corner, path)
 
@@ -136,14 +136,18 @@ class Eyes:
     def keep(self, window, path):
         """A small picture file of a window (a box), its borders and what lies on it; the mouse is put aside."""
         _run("xdotool", "mousemove", 0, 0)
-        left, right, top, bottom = _borders()
-        width, height = window.width * SCALE + left + right, window.height * SCALE + top + bottom
-        crop = f"{width}x{height}+{window.x * SCALE - left}+{window.y * SCALE - top}"
-        _save(self.still(crop), path)
+        _save(self.still(_crop(window, _borders())), path)
 
     def snapshot(self, box, path):
         """A picture file of a box as it is at this moment, for what never stands still."""
         _save(self.part(box), path)
+
+
+def _crop(box, borders=(0, 0, 0, 0)):
+    """A box and what lies around it, as ImageMagick writes a part of a picture, in screen pixels."""
+    left, right, top, bottom = borders
+    x, y, width, height = (round(side * SCALE) for side in (box.x, box.y, box.width, box.height))
+    return f"{width + left + right}x{height + top + bottom}{x - left:+}{y - top:+}"
 
 
 def _save(picture, path):

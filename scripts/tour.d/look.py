@@ -6,15 +6,16 @@ Usage: look.py EXECUTABLE DATA SCRATCH PICTURES LANGUAGE      (in the desktop of
 import sys
 from pathlib import Path
 
-from accessible import expect
+from accessible import ONE, SOMETHING, Box, expect
 from disk import Airport
 from program import Program
-from screen import Eyes, click, click_at, minimise, press
+from screen import Eyes, click, click_at, minimise, move_to, press
 from stage import AIRPORT
 from tray import Tray
 from windows import Companion, MainWindow, Viewer
 
 UNKNOWN = "zzzz"
+PANELS = (16, 22, 24, 32)  # screen pixels, the heights of usual notification areas
 
 
 class Look:
@@ -29,9 +30,12 @@ class Look:
         self.pictures = Path(pictures)
         self.count = 0
 
-    def keep(self, what):
+    def keep(self, what, pointer=(0, 0)):
+        self.eyes.keep(self.program.window(), self.next(what), pointer)
+
+    def next(self, what):
         self.count += 1
-        self.eyes.keep(self.program.window(), self.pictures / f"{self.count:02}-{what}.png")
+        return self.pictures / f"{self.count:02}-{what}.png"
 
     def run(self):
         self.search()
@@ -49,6 +53,8 @@ class Look:
     def airport_view(self):
         self.main.open_from_list(AIRPORT)
         self.keep("airport")
+        self.character()
+        self.tool_tip(self.main.button("cmdGrafica"))
         self.main.choose("cmdInfo")
         self.main.button("cmdEsciMail")
         self.keep("information")
@@ -57,6 +63,23 @@ class Look:
         self.main.message_box("0011", "0012")
         self.keep("quit")
         self.main.answer("0011", "0012", "0105")
+
+    def character(self):
+        """The presenter, which only speaks Italian."""
+        if self.language.caption("frmMain", "cmdEsci") != "Uscita":
+            return
+        shown = self.program.shown
+        expect("character", shown.character, SOMETHING)
+        window, character = self.program.window(), shown.character().box
+        both = Box(window.x, window.y, character.right - window.x, max(window.bottom, character.bottom) - window.y)
+        self.eyes.snapshot(both, self.next("character"))
+
+    def tool_tip(self, button):
+        box = button.box
+        middle = (box.x + box.width // 2, box.y + box.height // 2)
+        move_to(*middle)
+        expect("tool tip", lambda: self.program.shown.all("tool tip"), ONE)
+        self.keep("tool-tip", middle)
 
     def charts(self):
         self.main.choose("cmdGrafica")
@@ -84,10 +107,11 @@ class Look:
 
     def companion_view(self):
         companion, tray = self.companion, Tray()
+        self.viewer.choose("Command4")
+        companion.expect_shown()
+        self.icon_sizes()
         tray.start()
         try:
-            self.viewer.choose("Command4")
-            companion.expect_shown()
             self.keep("companion")
             companion.open_menu()
             companion.item("mPopExit")
@@ -97,7 +121,6 @@ class Look:
             self.keep("companion-exit")
             companion.answer("0025", "0026", "0105")
             tray.expect_icons(1)
-            self.eyes.corner(self.pictures / "icon.png")
             minimise()
             companion.expect_hidden()
             tray.click(3)
@@ -111,6 +134,17 @@ class Look:
             self.viewer.expect_shown(AIRPORT)
         finally:
             tray.stop()
+
+    def icon_sizes(self):
+        """The icon in notification areas of several heights, as long as the companion is there."""
+        for height in PANELS:
+            tray = Tray(height)
+            tray.start()
+            try:
+                tray.expect_icons(1)
+                self.eyes.corner(self.pictures / f"icon-{height}.png")
+            finally:
+                tray.stop()
 
     def choose(self, family, option):
         """The chart of a family that has the most to read."""

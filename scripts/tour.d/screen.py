@@ -133,9 +133,10 @@ class Eyes:
             now.replace(before)
         return before
 
-    def keep(self, window, path):
-        """A small picture file of a window (a box), its borders and what lies on it; the mouse is put aside."""
-        _run("xdotool", "mousemove", 0, 0)
+    def keep(self, window, path, pointer=(0, 0)):
+        """A small picture file of a window (a box), its borders and what lies on it; the mouse is put aside, or
+        stays at `pointer`."""
+        move_to(*pointer)
         _save(self.still(_crop(window, _borders())), path)
 
     def snapshot(self, box, path):

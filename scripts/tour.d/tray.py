@@ -9,18 +9,20 @@ from pathlib import Path
 from accessible import Box, expect
 from screen import SCALE, click_at, move_to
 
-PANEL = ("--edge", "bottom", "--align", "right", "--widthtype", "request", "--height", "24", "--SetDockType", "true",
-         "--expand", "true", "--transparent", "false")
+PANEL = ("--edge", "bottom", "--align", "right", "--widthtype", "request", "--SetDockType", "true", "--expand", "true",
+         "--transparent", "false")
 
 
 class Tray:
     """A notification area of the older kind, in the lower right corner of the screen."""
 
-    def __init__(self):
+    def __init__(self, height=24):
+        """A notification area of this height, in screen pixels."""
+        self._panel = ("trayer", *PANEL, "--height", str(height))
         self._process = None
 
     def start(self):
-        self._process = subprocess.Popen(["trayer", *PANEL], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self._process = subprocess.Popen(self._panel, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def stop(self):
         if self._process is not None:

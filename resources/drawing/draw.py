@@ -3,6 +3,7 @@
 import sys
 from pathlib import Path
 
+import boxes
 import buttons
 import emblems
 import poster
@@ -10,7 +11,7 @@ import poster
 
 def main():
     folder = Path(sys.argv[1])
-    for source in (poster, buttons, emblems):
+    for source in (poster, buttons, boxes, emblems):
         for name, text in source.pictures().items():
             (folder / f"{name}.svg").write_text(text, encoding="ascii")
 

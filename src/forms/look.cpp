@@ -1,11 +1,11 @@
 #include "forms/look.h"
 
 #include "forms/compiled_pictures.h"
+#include "forms/style.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QPalette>
-#include <QStyleFactory>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -20,7 +20,7 @@ QFont fontOf(const Look& look) {
 }
 
 void applyProgramLook(QApplication& application) {
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
+    QApplication::setStyle(new ProgramStyle);
     QPalette palette(colour::face, colour::face);
     for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
         palette.setColor(role, colour::ink);
@@ -39,7 +39,8 @@ void showProgramIcon() {
     static bool shown = false;
     if (std::exchange(shown, true)) return;
     QIcon icon;
-    for (const char* size : {"quarvel-16", "quarvel-32", "quarvel-48", "quarvel-128"})
+    for (const char* size :
+         {"quarvel-16", "quarvel-22", "quarvel-24", "quarvel-32", "quarvel-48", "quarvel-128"})
         icon.addPixmap(compiledPicture(size));
     QApplication::setWindowIcon(icon);
 }

@@ -71,19 +71,21 @@ private:
         if (event.button() == Qt::MiddleButton) event.ignore();
     }
 
-    /// Paints `part` (logical pixels of this widget) from the picture, at the screen's own pixels.
+    /// Paints `part` (logical pixels of this widget) from the picture, at the screen's own pixels. Where the
+    /// widget begins or ends inside one of those, the picture takes the whole of it: no seam to the next
+    /// widget.
     void paintVisible(QPainter& painter, QRect part) {
         if (part.isEmpty()) return;
-        const double ratio = devicePixelRatioF();
-        const QPoint from(static_cast<int>(std::floor(part.left() * ratio)),
-                          static_cast<int>(std::floor(part.top() * ratio)));
-        const QPoint to(static_cast<int>(std::ceil((part.right() + 1) * ratio)),
-                        static_cast<int>(std::ceil((part.bottom() + 1) * ratio)));
-        const QRect device(from, QSize(to.x() - from.x(), to.y() - from.y()));
-        QImage target(device.size(), QImage::Format_RGB32);
-        paintPicture(picture, QSizeF(size()) * ratio, device, target);
+        const QTransform toScreen = painter.deviceTransform();
+        const double ratio = toScreen.m11();
+        const QPoint corner = toScreen.map(QPointF(0, 0)).toPoint();
+        const QSize stretched(static_cast<int>(std::ceil(width() * ratio)),
+                              static_cast<int>(std::ceil(height() * ratio)));
+        const QRect shown = toScreen.mapRect(QRectF(part)).toAlignedRect() & QRect(corner, stretched);
+        QImage target(shown.size(), QImage::Format_RGB32);
+        paintPicture(picture, stretched, shown.translated(-corner), target);
         target.setDevicePixelRatio(ratio);
-        painter.drawImage(QPointF(from) / ratio, target);
+        painter.drawImage(toScreen.inverted().map(QPointF(shown.topLeft())), target);
     }
 };
 

@@ -2,8 +2,10 @@
 
 #include "forms/compiled_pictures.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPalette>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -87,6 +89,10 @@ Button::Button(Container& container, const ControlSpec& spec)
     auto& graphic = static_cast<GraphicButton&>(widget());
     graphic.pictureName = spec.picture;
     graphic.setAttribute(Qt::WA_Hover);
+    QPalette palette = graphic.palette(); // its ink is that of a usable button; one that is not stays paler
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText,
+                     QGuiApplication::palette().color(QPalette::Disabled, QPalette::ButtonText));
+    graphic.setPalette(palette);
     QObject::connect(&graphic, &QAbstractButton::clicked, &graphic, [this] { clicked.raise(); });
     Button::setCaption(QString::fromUtf16(spec.caption));
 }

@@ -19,7 +19,10 @@ protected:
         QColor line = palette().color(QPalette::WindowText);
         line.setAlpha(110);
         painter.setPen(line);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, edge + 0.5, -0.5, -0.5), 3, 3);
+        // Square, and open where it leaves the window: frames lie edge to edge and partly under what they
+        // hold, where half a round corner or a bit of a side would be a smudge.
+        const QRectF outline = QRectF(rect()).adjusted(x() > 0 ? 0.5 : -1.5, edge + 0.5, -0.5, -0.5);
+        painter.drawRect(outline);
         if (title().isEmpty()) return;
         const int begin = captionIndent + std::max(0, -x()); // a frame may begin left of its window
         const QRect text(begin, 0, width() - begin - captionIndent, fontMetrics().height());

@@ -85,6 +85,8 @@ private:
 TextBox::TextBox(Container& container, const ControlSpec& spec)
     : WidgetControl(container, spec, new LineEdit(events)) {
     edit().setAlignment(Qt::AlignCenter);
+    edit().setAutoFillBackground(
+        false); // it fills its round frame itself; what lies below shows in the corners
     edit().setText(QString::fromUtf16(spec.caption));
     QObject::connect(&edit(), &QLineEdit::textChanged, &edit(),
                      [this](const QString& text) { static_cast<LineEdit&>(edit()).limit.follow(text); });

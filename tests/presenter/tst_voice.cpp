@@ -55,13 +55,13 @@ private Q_SLOTS:
 
     void theTextReachesTheSynthesiserOnlyByItsInput() {
         install("printf '%s|' \"$@\" >$0.options; /bin/cat >$0.text; /bin/cat $0.wave");
-        const QString text = u"-w/x 'È' \"$(id)\"\n; rm `a`\t[[b]]"_s;
+        const QString text = u"-w/x 'È' \"$(id)\"\n; rm `a`\t[[[b]]]\1\2"_s + QChar(0) + u"c"_s;
         EspeakVoice voice;
         const QSignalSpy finished(&voice, &Voice::finished);
         voice.speak(text);
         QTRY_COMPARE(finished.count(), 1);
-        // Two opening brackets would begin a notation of sounds.
-        QCOMPARE(contents(u".text"_s), QString(text).replace(u"[["_s, u"[ ["_s).toUtf8());
+        // Two opening brackets would begin a notation of sounds, control characters are commands.
+        QCOMPARE(contents(u".text"_s), u"-w/x 'È' \"$(id)\"\n; rm `a`\t[ [ [b]]]   c"_s.toUtf8());
         QCOMPARE(contents(u".options"_s), "-v|it|--stdin|--stdout|");
     }
 

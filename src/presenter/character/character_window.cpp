@@ -17,6 +17,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr int frameMs = 33;
+constexpr int lookMs = 1000;       // between two looks for a compositor
 constexpr double takeOverMs = 180; ///< in which an animation takes over from whatever pose it finds
 
 /// Assistive tools meet the character as what it is; its name is the line that it is speaking.
@@ -60,7 +61,8 @@ void CharacterWindow::play(Animation animation) {
 void CharacterWindow::setLoudness(double loudness) { loudness_ = std::clamp(loudness, 0.0, 1.0); }
 
 void CharacterWindow::setSpokenLine(const QString& line) {
-    setAccessibleName(line); // an event of its own tells assistive tools of the change
+    if (line != accessibleName())
+        setAccessibleName(line); // an event of its own tells assistive tools of the change
 }
 
 void CharacterWindow::standBeside(const QRect& window, const QRect& screen) {
@@ -73,6 +75,7 @@ void CharacterWindow::standBeside(const QRect& window, const QRect& screen) {
 void CharacterWindow::step() {
     const auto ms = static_cast<double>(clock_.elapsed());
     takePose(ms);
+    if (looked_.hasExpired(lookMs)) lookForCompositor();
     if (cut_) cutOut();
     update();
     if (playing_.has_value() && ms >= durationOf(*playing_)) endAnimation();
@@ -93,6 +96,13 @@ void CharacterWindow::endAnimation() {
     clock_.start();
     if (stance_ == Stance::Away) hide();
     Q_EMIT animationEnded();
+}
+
+/// A compositor may come and go while a long text is read.
+void CharacterWindow::lookForCompositor() {
+    cut_ = !compositorRuns();
+    if (!cut_) clearMask();
+    looked_.start();
 }
 
 /// Without a compositor the window is cut along the character's outline, which is dark and so bears a hard
@@ -121,11 +131,8 @@ void CharacterWindow::paintEvent(QPaintEvent* /*event*/) {
 void CharacterWindow::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     if (event->spontaneous()) return;
-    cut_ = !compositorRuns();
-    if (cut_)
-        cutOut();
-    else
-        clearMask();
+    lookForCompositor();
+    if (cut_) cutOut();
     frames_.start();
 }
 

@@ -52,6 +52,7 @@ private:
     void step();
     void takePose(double ms);
     void endAnimation();
+    void lookForCompositor();
     void cutOut();
 
     QTimer frames_;
@@ -62,8 +63,9 @@ private:
     Pose from_ = pose_; ///< where the running animation took over
     double loudness_ = 0;
     double beak_ = 0;
-    bool cut_ = false; ///< the window is cut to the character's outline
-    QImage drawn_;     ///< what it was cut from
+    QElapsedTimer looked_; ///< since the last look for a compositor
+    bool cut_ = false;     ///< the window is cut to the character's outline
+    QImage drawn_;         ///< what it was cut from
 };
 
 } // namespace quarvel

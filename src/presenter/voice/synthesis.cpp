@@ -35,8 +35,14 @@ void prepareChild(pid_t parent, int output) {
     if (::getppid() != parent || ::dup2(output, STDOUT_FILENO) < 0) ::_exit(127);
 }
 
-/// Two brackets in a row begin the synthesiser's own notation of sounds.
-QString asPlainText(QString text) { return text.replace(u"[["_s, u"[ ["_s); }
+/// Two brackets in a row begin the synthesiser's own notation of sounds, however many follow; a zero ends its
+/// reading, and other control characters are commands to it. A text has none of these.
+QString asPlainText(QString text) {
+    text.replace(u"[["_s, u"[ ["_s).replace(u"[["_s, u"[ ["_s); // the second time for an odd number of them
+    for (QChar& character : text)
+        if (character < u' ' && !character.isSpace()) character = u' ';
+    return text;
+}
 
 } // namespace
 

@@ -70,8 +70,8 @@ void frmFS9::Form_Load() {
 
 void frmFS9::giveOwnTexts() {
     if (c == nullptr) return;
-    c->HScroll1.setSpokenName(ownText(language_, u"0163"_s));
-    c->VScroll1.setSpokenName(ownText(language_, u"0164"_s));
+    c->HScroll1.setSpokenName(standingText(language_, u"0163"_s));
+    c->VScroll1.setSpokenName(standingText(language_, u"0164"_s));
 }
 
 void frmFS9::Form_Resize() {

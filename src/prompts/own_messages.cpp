@@ -91,9 +91,12 @@ QString builtInText(const QString& number) {
 }
 
 QString ownText(modLanguageSupport& language, const QString& number) {
-    if (!language.hasLanguage()) return builtInText(number);
     const QString found = language.MLSGetString(number).replace(u"\\n"_s, u"\n"_s);
     return found.isEmpty() ? builtInText(number) : found;
+}
+
+QString standingText(modLanguageSupport& language, const QString& number) {
+    return language.hasLanguage() ? ownText(language, number) : builtInText(number);
 }
 
 } // namespace quarvel

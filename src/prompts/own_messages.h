@@ -24,4 +24,8 @@ struct OwnMessage {
 /// are a line break.
 [[nodiscard]] QString ownText(modLanguageSupport& language, const QString& number);
 
+/// The same for a text that stands on a window: while no language is current it is the built-in one, as the
+/// window's other texts are, and the setting file is not asked for a language.
+[[nodiscard]] QString standingText(modLanguageSupport& language, const QString& number);
+
 } // namespace quarvel

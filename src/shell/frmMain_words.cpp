@@ -29,9 +29,9 @@ void frmMain::giveOwnTexts() {
     c->txtNomeAeroporto.setSpokenName(*c->Label1.caption());
     c->lstWords.setSpokenName(*c->Label16.caption());
     c->ImgLingua.forEach([](int /*index*/, Image& flag) { flag.setSpokenName(*flag.toolTip()); });
-    const QString decorationName = ownText(language_, u"0161"_s);
+    const QString decorationName = standingText(language_, u"0161"_s);
     c->Image1.forEach([&](int /*index*/, Image& decoration) { decoration.setSpokenName(decorationName); });
-    c->imgAeroporto.setSpokenName(ownText(language_, u"0160"_s));
+    c->imgAeroporto.setSpokenName(standingText(language_, u"0160"_s));
     showHints();
 }
 
@@ -45,7 +45,7 @@ void frmMain::showSearchHint() {
     const bool searching = !c->Label2.isShown();
     const ArchiveState archive = archiveState(paths_.archiveFolder());
     const QString beginning =
-        archive == ArchiveState::Filled ? ownText(language_, u"0151"_s) : hintFor(archive);
+        archive == ArchiveState::Filled ? standingText(language_, u"0151"_s) : hintFor(archive);
     c->searchHint.showText(searching ? beginning : QString());
 }
 
@@ -53,11 +53,11 @@ QString frmMain::emptyListHint() { return hintFor(archiveState(paths_.archiveFol
 
 QString frmMain::hintFor(ArchiveState archive) {
     switch (archive) {
-    case ArchiveState::Filled: return ownText(language_, u"0152"_s);
-    case ArchiveState::Empty: return ownText(language_, u"0150"_s);
+    case ArchiveState::Filled: return standingText(language_, u"0152"_s);
+    case ArchiveState::Empty: return standingText(language_, u"0150"_s);
     case ArchiveState::Unreadable: break;
     }
-    return ownText(language_, u"0153"_s).arg(breakablePath(paths_.archiveFolder()));
+    return standingText(language_, u"0153"_s).arg(breakablePath(paths_.archiveFolder()));
 }
 
 } // namespace quarvel

@@ -89,23 +89,23 @@ void frmView::giveOwnTexts() {
     c->Text1.setSpokenName(*c->Frame3.caption());
     c->Text2.setSpokenName(*c->Frame1.caption());
     c->Text3.setSpokenName(*c->Frame4.caption());
-    c->HScroll1.setSpokenName(ownText(language_, u"0163"_s));
-    c->VScroll1.setSpokenName(ownText(language_, u"0164"_s));
+    c->HScroll1.setSpokenName(standingText(language_, u"0163"_s));
+    c->VScroll1.setSpokenName(standingText(language_, u"0164"_s));
     nameChart();
     showHints();
 }
 
 void frmView::nameChart() {
-    const QString name = ChartName.isEmpty() ? ownText(language_, u"0162"_s) : ChartName;
+    const QString name = ChartName.isEmpty() ? standingText(language_, u"0162"_s) : ChartName;
     c->Image1.setSpokenName(name);
     c->Picture1.setSpokenName(name);
 }
 
 void frmView::showHints() {
-    if (!chartChosen_) c->chartHint.showText(ownText(language_, u"0156"_s));
+    if (!chartChosen_) c->chartHint.showText(standingText(language_, u"0156"_s));
     const QString folder = c->File1.path();
-    c->List1.setHint(folder.isEmpty() ? ownText(language_, u"0154"_s)
-                                      : ownText(language_, u"0155"_s).arg(breakablePath(folder)));
+    c->List1.setHint(folder.isEmpty() ? standingText(language_, u"0154"_s)
+                                      : standingText(language_, u"0155"_s).arg(breakablePath(folder)));
 }
 
 void frmView::beepIf(ZoomOutcome outcome) {

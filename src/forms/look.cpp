@@ -25,7 +25,7 @@ void applyProgramLook(QApplication& application) {
     for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
         palette.setColor(role, colour::ink);
     for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
-        palette.setColor(QPalette::Disabled, role, QColor(112, 114, 140));
+        palette.setColor(QPalette::Disabled, role, QColor(100, 102, 130));
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::Highlight, QColor(58, 66, 160));
     palette.setColor(QPalette::HighlightedText, Qt::white);

@@ -11,6 +11,7 @@ import chart_steps
 import companion_steps
 import english_pictures
 import entry_steps
+import keyboard_steps
 import note_steps
 import presenter_steps
 from stage import Stage
@@ -42,6 +43,7 @@ def main(stage):
     entry_steps.find_it_again(stage)
     presenter_steps.present(stage)
     presenter_steps.end_while_it_speaks(stage)
+    keyboard_steps.without_a_mouse(stage)
     airport_steps.open_again(stage)
     companion_steps.exit_from_the_icon(stage, chart_steps.choose_first(stage))
     stage.steps.done()

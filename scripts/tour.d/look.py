@@ -49,6 +49,8 @@ class Look:
         self.main.search("li")
         expect("list", lambda: f"[{AIRPORT}]" in self.main.entries(), True)
         self.keep("results")
+        press("Tab", "Tab")
+        self.keep("focus-on-the-list")
 
     def airport_view(self):
         self.main.open_from_list(AIRPORT)
@@ -103,7 +105,24 @@ class Look:
         self.keep("save")
         self.viewer.answer("0027", "0028", "0103")
         self.companion_view()
+        self.focus_on_the_chart()
+        self.no_charts()
         self.viewer.choose("Command3")
+
+    def focus_on_the_chart(self):
+        self.choose("Sid", 0)
+        press("shift+Tab", "shift+Tab", "Tab")
+        self.keep("focus-on-the-family")
+        press(*["Tab"] * 11)
+        self.keep("focus-on-the-chart")
+
+    def no_charts(self):
+        """A family without charts says where they belong."""
+        for name in self.airport.charts("Star"):
+            self.airport.chart("Star", name).unlink()
+        self.viewer.family(1)
+        expect("charts", self.viewer.charts, [])
+        self.keep("no-charts")
 
     def companion_view(self):
         companion, tray = self.companion, Tray()
@@ -158,6 +177,8 @@ class Look:
     def new_airport(self):
         self.main.expect_search()
         self.main.search(UNKNOWN)
+        expect("list", self.main.entries, [])
+        self.keep("no-match")
         click(self.main.button("cmdElabora"))
         self.main.message_box("0013", "0014")
         self.keep("not-found")

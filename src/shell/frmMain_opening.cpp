@@ -110,6 +110,7 @@ void frmMain::startNewAirport(const QString& name, const Before& before) {
     }
     ShowAirportData();
     c->Frame5.setShown(Shown::No);
+    c->lstWords.setHint({}); // what it said has been done
     c->cmdElabora.setUsable(Usable::No);
     c->Frame3.setShown(Shown::Yes);
     c->txtNomeAeroporto.setUsable(Usable::Yes);

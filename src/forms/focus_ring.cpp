@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QList>
 #include <QPainter>
 #include <algorithm>
 
@@ -20,15 +21,26 @@ constexpr const char* ownMark = "quarvelMarksItsFocus";
 
 QRect grown(const QRect& control) { return control.adjusted(-thickness, -thickness, thickness, thickness); }
 
-/// Whether a ring around a control would cover none of its neighbours.
-bool hasRoomAround(const QWidget& control) {
-    const QRect ring = grown(control.geometry());
-    const QList<QWidget*> neighbours =
-        control.parentWidget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
-    return std::none_of(neighbours.begin(), neighbours.end(), [&](const QWidget* neighbour) {
-        return neighbour != &control && neighbour->isVisible() && neighbour->objectName() != ringName &&
-               neighbour->geometry().intersects(ring);
+QList<QWidget*> neighboursOf(const QWidget& control) {
+    QList<QWidget*> all = control.parentWidget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    all.removeIf(
+        [](const QWidget* widget) { return !widget->isVisible() || widget->objectName() == ringName; });
+    return all; // from the back to the front
+}
+
+/// The place of a control's ring in its parent: around it where that covers no neighbour; else on its edge,
+/// and clear of the neighbours in front, which a ring over them would slow down.
+QRect ringPlace(QWidget& control) {
+    const QList<QWidget*> neighbours = neighboursOf(control);
+    const QRect around = grown(control.geometry());
+    const bool room = std::none_of(neighbours.begin(), neighbours.end(), [&](const QWidget* neighbour) {
+        return neighbour != &control && neighbour->geometry().intersects(around);
     });
+    if (room) return around;
+    QRegion seen(control.geometry());
+    for (qsizetype i = neighbours.indexOf(&control) + 1; i < neighbours.size(); ++i)
+        seen -= neighbours[i]->geometry();
+    return seen.boundingRect();
 }
 
 } // namespace
@@ -58,10 +70,10 @@ void FocusRing::surround() {
         hide();
         return;
     }
-    const QRect control(focused_->mapTo(parentWidget(), QPoint()), focused_->size());
+    const QRect place = ringPlace(*focused_);
+    const QPoint corner = focused_->parentWidget()->mapTo(parentWidget(), place.topLeft());
     // Beyond the window's edge there is nothing to see: there the ring stands at the edge.
-    const QRect outer =
-        hasRoomAround(*focused_) ? grown(control) & parentWidget()->rect() : control & parentWidget()->rect();
+    const QRect outer = QRect(corner, place.size()) & parentWidget()->rect();
     setGeometry(outer);
     const QRect inner = outer.adjusted(thickness, thickness, -thickness, -thickness);
     setMask(QRegion(rect()) - inner.translated(-outer.topLeft()));

@@ -15,7 +15,13 @@ void frmMain::cmdEsci_Click() {
 
 void frmMain::cmdInfo_Click() { c->fraMail.setShown(Shown::Yes); }
 
-void frmMain::cmdEsciMail_Click() { c->fraMail.setShown(Shown::No); }
+void frmMain::cmdEsciMail_Click() {
+    // The focus would go on to the first entry field: it goes back to where it came from.
+    const QWidget* const focused = window()->focusWidget();
+    const bool focusGoes = focused != nullptr && c->fraMail.widget().isAncestorOf(focused);
+    if (focusGoes && c->cmdInfo.widget().isVisible()) c->cmdInfo.setFocus();
+    c->fraMail.setShown(Shown::No);
+}
 
 void frmMain::Label15_MouseMove() {
     c->Label15.setTextColour(QColor(255, 0, 0));
@@ -37,6 +43,7 @@ void frmMain::cmdAzzera_Click() {
     HideAirportData();
     c->txtNomeAeroporto.setUsable(Usable::Yes);
     ShowDecorations();
+    c->txtNomeAeroporto.setFocus(); // the command that had it is gone
 }
 
 } // namespace quarvel

@@ -137,6 +137,7 @@ void frmMain::showAirport(const QString& name, const Before& before) {
     presentAirport(name);
     HideDecorations();
     ShowAirportData();
+    c->txtRwy[IcaoCode].setFocus(); // what was used to open the airport is hidden or disabled
     if (!pictured) {
         endWithoutPicture();
         return;

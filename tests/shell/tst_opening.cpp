@@ -95,6 +95,7 @@ private Q_SLOTS:
         for (const auto& name : {u"Frame3"_s, u"fraRicerca"_s, u"Frame2"_s, u"Image1(0)"_s, u"Image1(1)"_s})
             QVERIFY2(!visible(window, name), qPrintable(name));
         QVERIFY(!TestProgram::control(window, u"txtNomeAeroporto"_s)->isEnabled());
+        QVERIFY(TestProgram::control(window, u"txtRwy(38)"_s)->hasFocus());
         QCOMPARE(test.program().state().CurrentAirport, u"LIRF"_s);
         QCOMPARE(test.program().state().CurrentIcao, u"LIRF"_s);
         QCOMPARE(test.presenter.loaded, QStringList(test.path(u"aeroporti/LIRF/LIRF_Agent.txt"_s)));

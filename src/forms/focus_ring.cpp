@@ -47,7 +47,7 @@ QRect ringPlace(QWidget& control) {
 
 void marksItsFocus(QWidget& widget) { widget.setProperty(ownMark, true); }
 
-FocusRing::FocusRing(QWidget& window) : QWidget(&window) {
+FocusRing::FocusRing(QWidget& window) : QFocusFrame(&window) {
     setObjectName(ringName);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);

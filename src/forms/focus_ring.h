@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QFocusFrame>
 #include <QPointer>
-#include <QWidget>
 
 namespace quarvel {
 
@@ -10,8 +10,8 @@ void marksItsFocus(QWidget& widget);
 
 /// Shows which control of a window has the keyboard: a ring of two colours, dark outside and light inside, so
 /// that it is seen on every background. It lies around the control, or on its edge where a neighbour is too
-/// near.
-class FocusRing : public QWidget {
+/// near. As a focus frame it is none of the things that assistive tools meet in a window.
+class FocusRing : public QFocusFrame {
 public:
     explicit FocusRing(QWidget& window);
 

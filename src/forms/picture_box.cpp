@@ -5,6 +5,7 @@
 
 #include <QEnterEvent>
 #include <QFocusEvent>
+#include <QFocusFrame>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -16,9 +17,9 @@ namespace quarvel {
 namespace {
 
 /// The mark of the focus, in front of all that the box holds: dark for a light ground, light for a dark one.
-class FocusEdge : public QWidget {
+class FocusEdge : public QFocusFrame {
 public:
-    explicit FocusEdge(QWidget* box) : QWidget(box) {
+    explicit FocusEdge(QWidget* box) : QFocusFrame(box) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         hide();
     }

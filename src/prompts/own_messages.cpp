@@ -78,6 +78,7 @@ constexpr std::array messages = {
     OwnMessage{u"0162", u"Cartina"},
     OwnMessage{u"0163", u"Scorrimento orizzontale della cartina"},
     OwnMessage{u"0164", u"Scorrimento verticale della cartina"},
+    OwnMessage{u"0165", u"Note (non usate)"},
 };
 
 } // namespace

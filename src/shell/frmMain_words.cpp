@@ -28,6 +28,7 @@ void frmMain::giveOwnTexts() {
                  *columns[static_cast<std::size_t>(column)], u" "_s + QString::number(row + 1));
     c->txtNomeAeroporto.setSpokenName(*c->Label1.caption());
     c->lstWords.setSpokenName(*c->Label16.caption());
+    c->fraRicerca.setSpokenName(*c->Label16.caption());
     c->ImgLingua.forEach([](int /*index*/, Image& flag) { flag.setSpokenName(*flag.toolTip()); });
     const QString decorationName = standingText(language_, u"0161"_s);
     c->Image1.forEach([&](int /*index*/, Image& decoration) { decoration.setSpokenName(decorationName); });

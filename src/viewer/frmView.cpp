@@ -86,13 +86,20 @@ Closing frmView::Form_QueryUnload(UnloadReason reason) {
 void frmView::giveOwnTexts() {
     if (c == nullptr) return;
     c->List1.setSpokenName(*c->Frame2.caption());
-    c->Text1.setSpokenName(*c->Frame3.caption());
-    c->Text2.setSpokenName(*c->Frame1.caption());
-    c->Text3.setSpokenName(*c->Frame4.caption());
+    nameNotes(c->Frame3, c->Text1);
+    nameNotes(c->Frame1, c->Text2);
+    nameNotes(c->Frame4, c->Text3);
     c->HScroll1.setSpokenName(standingText(language_, u"0163"_s));
     c->VScroll1.setSpokenName(standingText(language_, u"0164"_s));
     nameChart();
     showHints();
+}
+
+void frmView::nameNotes(Frame& frame, MultiLineTextBox& notes) {
+    const QString caption = *frame.caption();
+    const QString name = caption.isEmpty() ? standingText(language_, u"0165"_s) : caption;
+    frame.setSpokenName(name);
+    notes.setSpokenName(name);
 }
 
 void frmView::nameChart() {

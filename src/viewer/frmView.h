@@ -62,6 +62,7 @@ private:
     void HScroll1_Change();
     void VScroll1_Scroll();
     void VScroll1_Change();
+    void nameNotes(Frame& frame, MultiLineTextBox& notes);
     void nameChart();
     void showHints();
     void beepIf(ZoomOutcome outcome);

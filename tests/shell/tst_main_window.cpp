@@ -142,6 +142,31 @@ private Q_SLOTS:
         QCOMPARE(test.program().state().MLSCurrentLanguage, u"English"_s);
     }
 
+    void assistiveToolsMeetNothingNameless() {
+        TestProgram test;
+        test.addAirport(u"LIRF"_s);
+        test.start();
+        test.type(u"L"_s); // the results are on show, and the ring around the name box
+        std::vector<QAccessibleInterface*> met = {QAccessible::queryAccessibleInterface(test.mainWindow())};
+        for (std::size_t i = 0; i < met.size(); ++i) {
+            QVERIFY2(!met[i]->text(QAccessible::Name).isEmpty() && met[i]->role() != QAccessible::Client,
+                     qPrintable(met[i]->object()->objectName()));
+            for (int child = 0; child < met[i]->childCount(); ++child)
+                if (QAccessibleInterface* next = met[i]->child(child);
+                    next->isValid() && next->object() && !next->state().invisible)
+                    met.push_back(next);
+        }
+        QVERIFY(met.size() > 10);
+    }
+
+    void closingTheInformationLeavesTheFocusWhereItCameFrom() {
+        TestProgram test;
+        test.startWith(u"LIRF"_s);
+        TestProgram::click(test.mainWindow(), u"cmdInfo"_s);
+        TestProgram::click(test.mainWindow(), u"cmdEsciMail"_s);
+        QVERIFY(TestProgram::control(test.mainWindow(), u"cmdInfo"_s)->hasFocus());
+    }
+
     void chartsCommandPlaysUnloadsAndShowsTheViewer() {
         TestProgram test;
         test.addAirport(u"LIRF"_s);
@@ -165,7 +190,7 @@ private Q_SLOTS:
         TestProgram::click(test.mainWindow(), u"cmdElabora"_s);
         TestProgram::click(test.mainWindow(), u"cmdAzzera"_s);
         QWidget* window = test.mainWindow();
-        QVERIFY(TestProgram::control(window, u"txtNomeAeroporto"_s)->isEnabled());
+        QVERIFY(TestProgram::control(window, u"txtNomeAeroporto"_s)->hasFocus());
         QVERIFY(TestProgram::control(window, u"fraRicerca"_s)->isVisible()); // keeps its visibility
         QCOMPARE(TestProgram::control<QLineEdit>(window, u"txtRwy(38)"_s)->text(), QString());
     }

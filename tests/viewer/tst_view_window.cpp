@@ -57,8 +57,11 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(test->path(u"aeroporti/LIRF/Star/arrivo.gif"_s)));
         TestProgram::click(window, u"Option1(1)"_s);
         QVERIFY(hint(u"List1"_s).contains(test->path(u"aeroporti/LIRF/Star"_s)));
+        const QString unused = TestProgram::control(window, u"Text1"_s)->accessibleName();
+        QVERIFY(!unused.isEmpty()); // though its frame has no caption
         choose(*test, u"Option1(0)"_s, 1);
         QCOMPARE(hint(u"List1"_s) + hint(u"Picture1"_s), QString());
+        QVERIFY(TestProgram::control(window, u"Text1"_s)->accessibleName() != unused);
     }
 
     void familiesFillListCountAndFramesUnlessMissing() {

@@ -92,7 +92,7 @@ bool FocusRing::eventFilter(QObject* watched, QEvent* event) {
         break;
     default: break;
     }
-    return QWidget::eventFilter(watched, event);
+    return QFocusFrame::eventFilter(watched, event);
 }
 
 void FocusRing::paintEvent(QPaintEvent* /*event*/) {

@@ -7,6 +7,7 @@
 #include <QFocusEvent>
 #include <QFocusFrame>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -93,6 +94,10 @@ protected:
         return QWidget::event(event);
     }
 
+    void keyPressEvent(QKeyEvent* event) override {
+        showFocus(); // whoever uses the keys sees where they go
+        QWidget::keyPressEvent(event);
+    }
     void focusInEvent(QFocusEvent* event) override {
         QWidget::focusInEvent(event);
         const auto reason = event->reason();

@@ -12,7 +12,7 @@ namespace quarvel {
 enum class Drag { Begun, Moved, Ended };
 
 /// A picture box: a plain area that clips the controls in it. What a picture in it leaves alone reaches it:
-/// the wheel and the middle button. It takes the focus, and says so at its edge when the keyboard gave it.
+/// the wheel and the middle button. It takes the focus, and says so at its edge once the keyboard is used.
 class PictureBox : public WidgetControl, public Container {
 public:
     /// `inner` is the unit in which the controls inside are measured.

@@ -9,30 +9,35 @@ namespace {
 
 class RoleWidget : public QAccessibleWidget {
 public:
-    RoleWidget(QWidget* widget, WithAccessibleRole& own)
-        : QAccessibleWidget(widget, own.accessibleRole()), own_(own) {}
+    using QAccessibleWidget::QAccessibleWidget;
 
     // Asked each time: a widget may become a command after a tool has met it.
-    [[nodiscard]] QAccessible::Role role() const override { return own_.accessibleRole(); }
+    [[nodiscard]] QAccessible::Role role() const override {
+        const auto* const its = own();
+        return its != nullptr ? its->accessibleRole() : QAccessibleWidget::role();
+    }
     [[nodiscard]] QStringList actionNames() const override {
         QStringList names = QAccessibleWidget::actionNames();
-        if (own_.isPressable()) names.prepend(pressAction());
+        if (isPressable()) names.prepend(pressAction());
         return names;
     }
     void doAction(const QString& action) override {
-        if (action == pressAction() && own_.isPressable())
-            own_.press();
+        if (action == pressAction() && isPressable())
+            own()->press();
         else
             QAccessibleWidget::doAction(action);
     }
 
 private:
-    WithAccessibleRole& own_; ///< the widget itself, without which this is never asked
+    /// The widget. None while it is being destroyed: the toolkit tells that it hides when all that is ours in
+    /// it is gone.
+    [[nodiscard]] WithAccessibleRole* own() const { return dynamic_cast<WithAccessibleRole*>(object()); }
+    [[nodiscard]] bool isPressable() const { return own() != nullptr && own()->isPressable(); }
 };
 
 QAccessibleInterface* withOwnRole(const QString& /*className*/, QObject* object) {
-    auto* const own = dynamic_cast<WithAccessibleRole*>(object);
-    return own != nullptr ? new RoleWidget(static_cast<QWidget*>(object), *own) : nullptr;
+    const auto* const own = dynamic_cast<WithAccessibleRole*>(object);
+    return own != nullptr ? new RoleWidget(static_cast<QWidget*>(object), own->accessibleRole()) : nullptr;
 }
 
 } // namespace

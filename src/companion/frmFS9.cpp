@@ -59,7 +59,6 @@ void frmFS9::Form_Load() {
     wasMinimised_ = false;
     chart_.emplace(c->Picture1, c->Image1, c->HScroll1, c->VScroll1,
                    TwipsPerPixel{TwipsPerPixelX, TwipsPerPixelY}, ZoomLevel);
-    c->Picture1.setSpokenName(windowCaption()); // which says what the mouse does there
     c->Picture1.setFocus();
     centreOn(services_.screen.whole());
     keepOnTop(); // before the icon, which takes the window's handle
@@ -70,6 +69,7 @@ void frmFS9::Form_Load() {
 
 void frmFS9::giveOwnTexts() {
     if (c == nullptr) return;
+    c->Picture1.setSpokenName(windowCaption()); // which says what the mouse does there
     c->HScroll1.setSpokenName(standingText(language_, u"0163"_s));
     c->VScroll1.setSpokenName(standingText(language_, u"0164"_s));
 }

@@ -110,6 +110,8 @@ private Q_SLOTS:
             QTest::newRow(claim) << static_cast<int>(key) << held << meaning;
         };
         row("plus typed with Shift", Qt::Key_Plus, Qt::ShiftModifier, ChartKey::ZoomIn);
+        row("plus typed with Shift, and Control", Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier,
+            ChartKey::ZoomIn);
         row("plus of the keypad", Qt::Key_Plus, Qt::KeypadModifier, ChartKey::ZoomIn);
         row("the plus key without Shift", Qt::Key_Equal, none, ChartKey::ZoomIn);
         row("an equals sign typed with Shift", Qt::Key_Equal, Qt::ShiftModifier, std::nullopt);

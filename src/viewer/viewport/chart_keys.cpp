@@ -15,10 +15,11 @@ struct Row {
 constexpr Qt::KeyboardModifiers alone;
 
 // The plus may need Shift to be typed, and then shares its key with the equals sign.
-constexpr std::array<Row, 21> keys = {{
+constexpr std::array<Row, 22> keys = {{
     {Qt::Key_Plus, alone, ChartKey::ZoomIn},
     {Qt::Key_Plus, Qt::ShiftModifier, ChartKey::ZoomIn},
     {Qt::Key_Plus, Qt::ControlModifier, ChartKey::ZoomIn},
+    {Qt::Key_Plus, Qt::ControlModifier | Qt::ShiftModifier, ChartKey::ZoomIn},
     {Qt::Key_Equal, alone, ChartKey::ZoomIn},
     {Qt::Key_Equal, Qt::ControlModifier, ChartKey::ZoomIn},
     {Qt::Key_Minus, alone, ChartKey::ZoomOut},

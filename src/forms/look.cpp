@@ -27,7 +27,7 @@ void applyProgramLook(QApplication& application) {
     for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
         palette.setColor(QPalette::Disabled, role, QColor(100, 102, 130));
     palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Highlight, QColor(58, 66, 160));
+    palette.setColor(QPalette::Highlight, colour::mark);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::ToolTipBase, QColor(255, 251, 224));
     palette.setColor(QPalette::ToolTipText, colour::ink);

@@ -2,6 +2,7 @@
 
 #include "forms/accessible_role.h"
 #include "forms/focus_ring.h"
+#include "forms/look.h"
 
 #include <QEnterEvent>
 #include <QFocusEvent>
@@ -28,7 +29,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
-        painter.setPen(QPen(QColor(58, 66, 160), 2));
+        painter.setPen(QPen(colour::mark, 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
         painter.setPen(Qt::white);
         painter.drawRect(rect().adjusted(2, 2, -3, -3));

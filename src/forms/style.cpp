@@ -19,7 +19,6 @@ namespace {
 constexpr QColor groove{222, 223, 238};
 constexpr QColor thumb{108, 112, 166};
 constexpr QColor thumbHovered{86, 90, 150};
-constexpr QColor thumbHeld{58, 66, 160};
 constexpr QColor outline{96, 100, 150};
 constexpr QColor faded{170, 172, 196};
 
@@ -38,7 +37,7 @@ const char* boxPicture(QStyle::StandardPixmap which) {
 
 QColor thumbColour(const QStyleOptionSlider& bar) {
     if (!bar.activeSubControls.testFlag(QStyle::SC_ScrollBarSlider)) return thumb;
-    return bar.state.testFlag(QStyle::State_Sunken) ? thumbHeld : thumbHovered;
+    return bar.state.testFlag(QStyle::State_Sunken) ? colour::mark : thumbHovered;
 }
 
 /// A triangle in the middle of a place, which points towards the beginning or the end of its bar.

@@ -2,6 +2,8 @@
 #include "prompts/own_messages.h"
 #include "shell/frmMain.h"
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace quarvel {
@@ -42,12 +44,13 @@ void frmMain::showHints() {
 }
 
 void frmMain::showSearchHint() {
-    // Once there are data they stand in its place.
-    const bool searching = !c->Label2.isShown();
+    if (c->Label2.isShown()) { // the data stand in its place
+        c->searchHint.showText({});
+        return;
+    }
     const ArchiveState archive = archiveState(paths_.archiveFolder());
-    const QString beginning =
-        archive == ArchiveState::Filled ? standingText(language_, u"0151"_s) : hintFor(archive);
-    c->searchHint.showText(searching ? beginning : QString());
+    c->searchHint.showText(archive == ArchiveState::Filled ? standingText(language_, u"0151"_s)
+                                                           : hintFor(archive));
 }
 
 QString frmMain::emptyListHint() { return hintFor(archiveState(paths_.archiveFolder())); }

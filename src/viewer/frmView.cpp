@@ -59,7 +59,6 @@ void frmView::forgetControls() {
 
 void frmView::Form_Load() {
     chosenRow_ = -1;
-    chartChosen_ = false;
     language_.MLSApplyLanguage(*this);
     if (c == nullptr) return;
     giveOwnTexts();
@@ -103,13 +102,13 @@ void frmView::nameNotes(Frame& frame, MultiLineTextBox& notes) {
 }
 
 void frmView::nameChart() {
-    const QString name = ChartName.isEmpty() ? standingText(language_, u"0162"_s) : ChartName;
+    const QString name = showsChart() ? ChartName : standingText(language_, u"0162"_s);
     c->Image1.setSpokenName(name);
     c->Picture1.setSpokenName(name);
 }
 
 void frmView::showHints() {
-    if (!chartChosen_) c->chartHint.showText(standingText(language_, u"0156"_s));
+    if (!showsChart()) c->chartHint.showText(standingText(language_, u"0156"_s));
     const QString folder = c->File1.path();
     c->List1.setHint(folder.isEmpty() ? standingText(language_, u"0154"_s)
                                       : standingText(language_, u"0155"_s).arg(breakablePath(folder)));

@@ -63,6 +63,8 @@ private:
     void VScroll1_Scroll();
     void VScroll1_Change();
     void nameNotes(Frame& frame, MultiLineTextBox& notes);
+    /// Whether a chart has been chosen since the window was loaded.
+    [[nodiscard]] bool showsChart() const { return c->Image1.isUsable(); }
     void nameChart();
     void showHints();
     void beepIf(ZoomOutcome outcome);
@@ -87,7 +89,6 @@ private:
     const Services& services_;
 
     std::optional<ChartFrame> chart_; ///< while the window is loaded
-    bool chartChosen_ = false;        ///< a chart is on show since the window was loaded
     int chosenOption_ = -1;           ///< of the list on show; -1 once the options have been cleared
     int chosenRow_ = -1; ///< of the chart shown, in the list on show; -1 when it is none of this list
 };

@@ -78,7 +78,6 @@ void frmView::List1_Click() {
         prompts_.tell(*this, Task::ShowChart);
         return;
     }
-    chartChosen_ = true;
     c->chartHint.showText({});
     showNotes(notes.value());
     c->Command4.setUsable(Usable::Yes);

@@ -62,6 +62,13 @@ private Q_SLOTS:
         choose(*test, u"Option1(0)"_s, 1);
         QCOMPARE(hint(u"List1"_s) + hint(u"Picture1"_s), QString());
         QVERIFY(TestProgram::control(window, u"Text1"_s)->accessibleName() != unused);
+        const auto chartName = [&] {
+            return TestProgram::control(test->viewWindow(), u"Picture1"_s)->accessibleName();
+        };
+        QCOMPARE(chartName(), u"KENN1"_s);
+        TestProgram::click(window, u"Command3"_s);
+        test->openViewer(u"LIRF"_s); // without a chart again
+        QVERIFY(!chartName().isEmpty() && chartName() != u"KENN1"_s);
     }
 
     void familiesFillListCountAndFramesUnlessMissing() {

@@ -36,14 +36,18 @@ QRect ringPlace(QWidget& control) {
     const bool room = std::none_of(neighbours.begin(), neighbours.end(), [&](const QWidget* neighbour) {
         return neighbour != &control && neighbour->geometry().intersects(around);
     });
-    if (room) return around;
-    QRegion seen(control.geometry());
+    return room ? around : seenPart(control);
+}
+
+} // namespace
+
+QRect seenPart(QWidget& control) {
+    const QList<QWidget*> neighbours = neighboursOf(control);
+    QRegion seen = control.geometry() & control.parentWidget()->rect();
     for (qsizetype i = neighbours.indexOf(&control) + 1; i < neighbours.size(); ++i)
         seen -= neighbours[i]->geometry();
     return seen.boundingRect();
 }
-
-} // namespace
 
 void marksItsFocus(QWidget& widget) { widget.setProperty(ownMark, true); }
 

@@ -2,8 +2,13 @@
 
 #include <QFocusFrame>
 #include <QPointer>
+#include <QRect>
 
 namespace quarvel {
+
+/// The part of a control that its parent's edge and its neighbours in front leave to be seen, in the parent's
+/// pixels.
+[[nodiscard]] QRect seenPart(QWidget& control);
 
 /// Leaves a widget without a ring: it shows by itself that it has the focus.
 void marksItsFocus(QWidget& widget);

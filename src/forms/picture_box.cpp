@@ -123,12 +123,7 @@ private:
 
     /// Marks the part that can be seen: a box may reach beyond its window, or below a neighbour.
     void showFocus() {
-        QRegion seen = geometry() & parentWidget()->rect();
-        const QObjectList& neighbours = parentWidget()->children(); // from the back to the front
-        for (qsizetype i = neighbours.indexOf(this) + 1; i < neighbours.size(); ++i)
-            if (const auto* other = qobject_cast<QWidget*>(neighbours[i]); other && other->isVisible())
-                seen -= other->geometry();
-        edge_.setGeometry(seen.boundingRect().translated(-pos()));
+        edge_.setGeometry(seenPart(*this).translated(-pos()));
         edge_.raise();
         edge_.show();
     }

@@ -126,7 +126,7 @@ void benchMemory(Viewer& viewer, int colours) {
 
 void benchSteps(Viewer& viewer, int colours) {
     Steps steps;
-    for (int i = 0; i < rounds; ++i)
+    for (int i = 0; i < roundsOf(rounds); ++i)
         for (const Qt::MouseButton button : {Qt::RightButton, Qt::LeftButton}) {
             viewer.choose();
             walkThroughZooms(viewer, button, steps);

@@ -73,7 +73,7 @@ int main(int argc, char** argv) {
     HiddenTextBox box(inside, {.name = "TxtFile", .place = {0, 0, 5415, 2535}, .shown = Shown::No});
     const Times first = present(test, box);
     std::vector<double> asked, shown;
-    for (int round = 0; round < rounds; ++round) {
+    for (int round = 0; round < roundsOf(rounds); ++round) {
         const Times times = present(test, box);
         asked.push_back(times.asked);
         shown.push_back(times.shown);

@@ -124,7 +124,7 @@ void benchOnScreen(const ProgramFolder& folder) {
     std::vector<std::vector<Pixel>> shown;
     for (const std::string& program : programs)
         shown.push_back(settledPixels(screen, bare, Process(program)));
-    for (int round = -2; round < rounds; ++round)
+    for (int round = -2; round < roundsOf(rounds); ++round)
         for (const std::size_t i : {std::size_t{0}, std::size_t{1}}) {
             const std::size_t which = round % 2 == 0 ? i : 1 - i;
             std::unique_ptr<Process> process;

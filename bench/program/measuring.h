@@ -4,12 +4,19 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdio>
+#include <cstdlib>
 #include <functional>
 #include <vector>
 
 namespace quarvel::bench {
 
 using Pieces = std::vector<std::function<void()>>;
+
+/// How often a measure is repeated: `full` times, or once in the short form of scripts/bench, which only sees
+/// to it that every benchmark still runs.
+inline int roundsOf(int full) {
+    return std::getenv("QUARVEL_BENCH_SHORT") != nullptr ? 1 : full; // NOLINT(concurrency-mt-unsafe)
+}
 
 /// How long a piece of work takes, in milliseconds.
 inline double milliseconds(const std::function<void()>& work) {
@@ -25,10 +32,11 @@ inline double median(std::vector<double> values) {
 }
 
 /// The median of each piece of work, in milliseconds. The pieces take turns, forwards and backwards, so that
-/// a busy machine spoils all of them alike; two rounds go before that are not counted.
+/// a busy machine spoils all of them alike; two rounds go before that are not counted. `rounds` are those of
+/// the full form.
 inline std::vector<double> medians(int rounds, const Pieces& pieces) {
     std::vector<std::vector<double>> times(pieces.size());
-    for (int round = -2; round < rounds; ++round)
+    for (int round = -2; round < roundsOf(rounds); ++round)
         for (std::size_t i = 0; i < pieces.size(); ++i) {
             const std::size_t piece = round % 2 == 0 ? i : pieces.size() - 1 - i;
             const double time = milliseconds(pieces[piece]);
@@ -46,9 +54,10 @@ inline std::vector<double> medians(int rounds, const Pieces& pieces) {
 /// budget of 0 is none.
 inline void printRatio(const char* claim, double measured, const char* baseName, double base, double budget) {
     const double ratio = measured / base;
-    std::printf("%s\t%.2f ms\t%s: %.2f ms\t%.2f\t", claim, measured, baseName, base, ratio);
+    const int places = ratio < 0.1 ? 4 : 2;
+    std::printf("%s\t%.*f ms\t%s: %.2f ms\t%.*f\t", claim, places, measured, baseName, base, places, ratio);
     if (budget > 0)
-        std::printf("at most %.1f times\t%s\n", budget, ratio <= budget ? "within" : "OVER");
+        std::printf("at most %g times\t%s\n", budget, ratio <= budget ? "within" : "OVER");
     else
         std::printf("none\t\n");
     std::fflush(stdout);
@@ -57,8 +66,14 @@ inline void printRatio(const char* claim, double measured, const char* baseName,
 /// A row for a figure that is to be at most `budget`, both in `unit`; `against` may say what it is over.
 inline void printFigure(const char* claim, double figure, const char* against, double budget,
                         const char* unit) {
-    std::printf("%s\t%.2f %s\t%s\t\tat most %.0f %s\t%s\n", claim, figure, unit, against, budget, unit,
+    std::printf("%s\t%.2f %s\t%s\t\tat most %g %s\t%s\n", claim, figure, unit, against, budget, unit,
                 figure <= budget ? "within" : "OVER");
+    std::fflush(stdout);
+}
+
+/// A row for a claim that cannot be measured here, since the program it is held against is not installed.
+inline void printMissing(const char* claim, const char* peer) {
+    std::printf("%s\tnot measured\t%s is not installed\t\t\t\n", claim, peer);
     std::fflush(stdout);
 }
 

@@ -8,6 +8,8 @@ set(data ${PROJECT_SOURCE_DIR}/data)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 
 install(TARGETS quarvel RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+# The executable looks for it in ../lib/quarvel, whatever CMAKE_INSTALL_LIBDIR says.
+install(TARGETS quarvel_printing LIBRARY DESTINATION lib/quarvel)
 
 # The executable looks for ../share/quarvel/starter, whatever CMAKE_INSTALL_DATADIR says. The data's README.md speaks to
 # whoever changes the samples, not to a user, and stays behind.

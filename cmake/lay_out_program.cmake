@@ -1,6 +1,7 @@
-# Lays out the program folder FOLDER from the shipped DATA and the EXECUTABLE.
+# Lays out the program folder FOLDER from the shipped DATA, the EXECUTABLE and its library for PRINTING.
 file(MAKE_DIRECTORY ${FOLDER})
 configure_file(${EXECUTABLE} ${FOLDER}/quarvel COPYONLY)
+configure_file(${PRINTING} ${FOLDER}/quarvel-printing.so COPYONLY)
 file(GLOB texts ${DATA}/*.lng ${DATA}/*.wav)
 foreach(text ${texts})
   get_filename_component(name ${text} NAME)

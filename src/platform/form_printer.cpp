@@ -1,33 +1,34 @@
 #include "platform/form_printer.h"
 
-#include <QPainter>
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLibrary>
 #include <QPixmap>
-#include <QPrinter>
-#include <QPrinterInfo>
 #include <QWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace quarvel {
+namespace {
+
+/// The library that prints lies beside the program or, installed, in ../lib/quarvel. It is opened now and not
+/// linked: what printing brings along would lengthen every start. Null when it is not there.
+PrintOnDefaultPrinter openPrinting() {
+    const QString folder = QCoreApplication::applicationDirPath();
+    for (const QString& place : {folder, folder + u"/../lib/quarvel"_s}) {
+        const QString file = place + u"/quarvel-printing.so"_s;
+        if (!QFileInfo::exists(file)) continue;
+        if (const QFunctionPointer print = QLibrary::resolve(file, printOnDefaultPrinterName))
+            return reinterpret_cast<PrintOnDefaultPrinter>(print);
+    }
+    return nullptr;
+}
+
+} // namespace
 
 PrintOutcome QtFormPrinter::print(QWidget& window) {
-    const QPixmap image = window.grab();
-    // Without a printer a QPrinter still calls itself valid: the printer is asked for first.
-    const QPrinterInfo defaultPrinter = QPrinterInfo::defaultPrinter();
-    if (defaultPrinter.isNull()) return PrintOutcome::NoPrinter;
-    QPrinter printer(defaultPrinter, QPrinter::HighResolution);
-    printer.setColorMode(QPrinter::Color); // a queue without a driver does not say that it can
-    printer.setDocName(window.windowTitle());
-    const QSizeF size = image.deviceIndependentSize();
-    printer.setPageOrientation(size.width() > size.height() ? QPageLayout::Landscape : QPageLayout::Portrait);
-
-    QPainter painter;
-    if (!painter.begin(&printer)) return PrintOutcome::Failed;
-    const QRectF page(QPointF(0, 0), QSizeF(printer.pageRect(QPrinter::DevicePixel).size()));
-    QRectF place(QPointF(0, 0), size.scaled(page.size(), Qt::KeepAspectRatio));
-    place.moveLeft((page.width() - place.width()) / 2);
-    painter.drawPixmap(place, image, QRectF(image.rect()));
-    const bool finished = painter.end();
-    return finished && printer.printerState() != QPrinter::Error ? PrintOutcome::Printed
-                                                                 : PrintOutcome::Failed;
+    static const PrintOnDefaultPrinter printPicture = openPrinting();
+    return printPicture == nullptr ? PrintOutcome::Failed : printPicture(window.grab(), window.windowTitle());
 }
 
 } // namespace quarvel

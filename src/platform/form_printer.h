@@ -1,10 +1,10 @@
 #pragma once
 
+#include "printing/default_printer.h"
+
 class QWidget;
 
 namespace quarvel {
-
-enum class PrintOutcome { Printed, NoPrinter, Failed };
 
 /// Prints a window as it looks now.
 class FormPrinter {
@@ -16,8 +16,7 @@ public:
     [[nodiscard]] virtual PrintOutcome print(QWidget& window) = 0;
 };
 
-/// Prints on the default printer, without a dialog: the window's inside at screen resolution, as large as the
-/// page allows with its proportions kept, at the top of the page.
+/// Prints on the default printer: the window's inside at screen resolution.
 class QtFormPrinter : public FormPrinter {
 public:
     [[nodiscard]] PrintOutcome print(QWidget& window) override;

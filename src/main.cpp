@@ -1,8 +1,8 @@
 #include "archive/program_folder.h"
 #include "archive/starter.h"
 #include "forms/look.h"
+#include "platform/beside.h"
 #include "platform/desktop_notification_area.h"
-#include "platform/font_preparation.h"
 #include "platform/services.h"
 #include "platform/window_system.h"
 #include "presenter/airport_presenter.h"
@@ -15,9 +15,10 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char** argv) {
     quarvel::chooseWindowSystem();
-    quarvel::FontPreparation fonts;
+    quarvel::Beside fontList(quarvel::readFontList);
     QApplication application(argc, argv);
-    fonts.finish();
+    fontList.finish();
+    const quarvel::Beside faces(quarvel::findFaces);
     QApplication::setApplicationName(u"Quarvel"_s);
     QApplication::setDesktopFileName(u"quarvel"_s);
     QApplication::setQuitOnLastWindowClosed(false); // windows that wait behind others are only hidden

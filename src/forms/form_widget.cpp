@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPalette>
 #include <QPlainTextEdit>
+#include <QTimer>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -90,7 +91,7 @@ bool FormWidget::event(QEvent* event) {
 }
 
 void FormWidget::activated() {
-    showProgramIcon();
+    QTimer::singleShot(0, qApp, showProgramIcon); // once the window itself is painted
     if (centreOn_) centreOuterFrame();
     if (leftForOwnBox_) {
         if (ownBoxes_ == 0) leftForOwnBox_ = false;

@@ -1,6 +1,7 @@
 #include "forms/frame.h"
 
-#include <QGroupBox>
+#include "forms/accessible_role.h"
+
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
@@ -10,7 +11,17 @@ namespace {
 
 constexpr int captionIndent = 8; // pixels from the frame's left edge
 
-class FrameBox : public QGroupBox {
+/// The toolkit's own group box measures its title while it is made, which would load a font for every hidden
+/// frame.
+class FrameBox : public QWidget, public WithAccessibleRole {
+public:
+    [[nodiscard]] QAccessible::Role accessibleRole() const override { return QAccessible::Grouping; }
+    [[nodiscard]] const QString& title() const { return title_; }
+    void setTitle(const QString& title) {
+        title_ = title;
+        update();
+    }
+
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
@@ -32,7 +43,12 @@ protected:
         painter.setPen(palette().color(group, QPalette::WindowText));
         painter.drawText(text, Qt::AlignLeft | Qt::TextShowMnemonic, title());
     }
+
+private:
+    QString title_;
 };
+
+FrameBox& boxOf(const Frame& frame) { return static_cast<FrameBox&>(frame.widget()); }
 
 } // namespace
 
@@ -42,10 +58,10 @@ Frame::Frame(Container& container, const ControlSpec& spec)
     Frame::setCaption(QString::fromUtf16(spec.caption));
 }
 
-std::optional<QString> Frame::caption() const { return static_cast<const QGroupBox&>(widget()).title(); }
+std::optional<QString> Frame::caption() const { return boxOf(*this).title(); }
 
 Setting Frame::setCaption(const QString& text) {
-    static_cast<QGroupBox&>(widget()).setTitle(text);
+    boxOf(*this).setTitle(text);
     setSpokenName(text);
     return Setting::Done;
 }

@@ -9,7 +9,9 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace quarvel {
 namespace {
@@ -20,6 +22,17 @@ int buttonCode(Qt::MouseButton button) {
     case Qt::RightButton: return 2;
     default: return 4;
     }
+}
+
+constexpr int stripPixels = 32768;
+
+/// A picture of `size` in memory that is used for every strip of every image.
+QImage stripFor(QSize size) {
+    static std::vector<QRgb> pixels;
+    const auto needed = static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height());
+    if (pixels.size() < needed) pixels.resize(needed);
+    return {reinterpret_cast<uchar*>(pixels.data()), size.width(), size.height(), 4 * size.width(),
+            QImage::Format_RGB32};
 }
 
 class ImageArea : public QWidget, public WithAccessibleRole {
@@ -82,10 +95,16 @@ private:
         const QSize stretched(static_cast<int>(std::ceil(width() * ratio)),
                               static_cast<int>(std::ceil(height() * ratio)));
         const QRect shown = toScreen.mapRect(QRectF(part)).toAlignedRect() & QRect(corner, stretched);
-        QImage target(shown.size(), QImage::Format_RGB32);
-        paintPicture(picture, stretched, shown.translated(-corner), target);
-        target.setDevicePixelRatio(ratio);
-        painter.drawImage(toScreen.inverted().map(QPointF(shown.topLeft())), target);
+        // In strips that stay in the processor's cache and in memory already touched: fresh memory for a
+        // whole window would cost more than the painting.
+        const int rows = std::max(1, stripPixels / std::max(1, shown.width()));
+        for (int top = shown.top(); top <= shown.bottom(); top += rows) {
+            const QRect strip = shown & QRect(shown.left(), top, shown.width(), rows);
+            QImage target = stripFor(strip.size());
+            paintPicture(picture, stretched, strip.translated(-corner), target);
+            target.setDevicePixelRatio(ratio);
+            painter.drawImage(toScreen.inverted().map(QPointF(strip.topLeft())), target);
+        }
     }
 };
 

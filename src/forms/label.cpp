@@ -32,13 +32,16 @@ namespace {
 
 class LinkLabel : public MouseLabel, public WithAccessibleRole {
 public:
-    LinkLabel() { setFocusPolicy(Qt::TabFocus); }
-
     [[nodiscard]] QAccessible::Role accessibleRole() const override { return QAccessible::Link; }
     [[nodiscard]] bool isPressable() const override { return isEnabled(); }
     void press() override { owner->clicked.raise(); }
 
 protected:
+    /// For a label that takes the focus the toolkit lays out a document; no link is focused before it is seen.
+    void showEvent(QShowEvent* event) override {
+        setFocusPolicy(Qt::TabFocus);
+        MouseLabel::showEvent(event);
+    }
     void keyPressEvent(QKeyEvent* event) override {
         if (isPressKey(*event))
             press();

@@ -4,6 +4,7 @@
 #include "forms/style.h"
 
 #include <QApplication>
+#include <QFontMetrics>
 #include <QIcon>
 #include <QPalette>
 #include <utility>
@@ -17,6 +18,12 @@ QFont fontOf(const Look& look) {
     font.setPointSizeF(look.points);
     font.setBold(look.weight == Weight::Bold);
     return font;
+}
+
+void findFaces() {
+    for (const Look& look :
+         {Look{}, Look{.weight = Weight::Bold}, Look{Face::TimesNewRoman, 14.25, Weight::Bold}})
+        static_cast<void>(QFontMetrics(fontOf(look)).height());
 }
 
 void applyProgramLook(QApplication& application) {

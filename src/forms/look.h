@@ -34,6 +34,10 @@ inline constexpr QColor mark{58, 66, 160}; ///< what is chosen, held or has the 
 
 [[nodiscard]] QFont fontOf(const Look& look);
 
+/// Finds the files of the faces that the windows show at their start, and those that stand in for letters
+/// that they lack. The toolkit keeps what was found for all threads, and this may be any.
+void findFaces();
+
 /// Sets the program's own style and colours, so that every desktop shows the windows as they were drawn.
 void applyProgramLook(QApplication& application);
 

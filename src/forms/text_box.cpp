@@ -3,6 +3,7 @@
 #include "forms/typing.h"
 
 #include <QFocusEvent>
+#include <QFont>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -45,13 +46,19 @@ private:
 
 class LineEdit : public QLineEdit {
 public:
-    explicit LineEdit(TextBoxEvents& events) : events_(events) {
+    /// Takes on its font when it is about to be seen: most boxes wait in hidden frames, and each size is
+    /// loaded.
+    LineEdit(TextBoxEvents& events, const QFont& font) : font_(font), events_(events) {
         setValidator(&limit);
         setMaxLength(std::numeric_limits<int>::max()); // the box's own limit would cut what is stored
     }
     EntryLimit limit;
 
 protected:
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::Polish) setFont(font_);
+        return QLineEdit::event(event);
+    }
     void keyPressEvent(QKeyEvent* event) override {
         QKeyEvent filtered = filteredKeyPress(events_, *event);
         QLineEdit::keyPressEvent(&filtered);
@@ -77,13 +84,19 @@ protected:
     }
 
 private:
+    QFont font_;
     TextBoxEvents& events_;
 };
+
+ControlSpec inProgramFont(ControlSpec spec) {
+    spec.look = {.text = spec.look.text, .background = spec.look.background};
+    return spec;
+}
 
 } // namespace
 
 TextBox::TextBox(Container& container, const ControlSpec& spec)
-    : WidgetControl(container, spec, new LineEdit(events)) {
+    : WidgetControl(container, inProgramFont(spec), new LineEdit(events, fontOf(spec.look))) {
     edit().setAlignment(Qt::AlignCenter);
     edit().setAutoFillBackground(
         false); // it fills its round frame itself; what lies below shows in the corners

@@ -19,10 +19,12 @@ struct Scratch {
 };
 
 void copyRow(const Picture& picture, const Scratch& scratch, int y, std::uint32_t* line) {
-    const auto& palette = picture.palette();
+    const std::uint32_t* const palette = picture.palette().data();
     const Axis& across = scratch.across;
-    const std::uint8_t* source = picture.row(scratch.down.first(y)) + across.first(across.begin());
-    for (int x = across.begin(); x < across.end(); ++x) line[x] = palette[*source++];
+    const std::uint8_t* const from = picture.row(scratch.down.first(y)) + across.first(across.begin());
+    std::uint32_t* const to = line + across.begin();
+    const int count = across.end() - across.begin();
+    for (int x = 0; x < count; ++x) to[x] = palette[from[x]];
 }
 
 void filterRow(const Picture& picture, Scratch& scratch, int y, std::uint32_t* line) {

@@ -1,9 +1,9 @@
+#include "forms/form_widget.h"
 #include "support/test_program.h"
 
 #include <QAbstractButton>
 #include <QDir>
 #include <QFile>
-#include <QGroupBox>
 #include <QLabel>
 #include <QListView>
 #include <QPlainTextEdit>
@@ -21,7 +21,9 @@ private:
         return TestProgram::control<QPlainTextEdit>(test.viewWindow(), box)->toPlainText();
     }
     static QString title(const TestProgram& test, const QString& frame) {
-        return TestProgram::control<QGroupBox>(test.viewWindow(), frame)->title();
+        for (const Control* control : static_cast<const FormWidget*>(test.viewWindow())->controls())
+            if (controlKey(*control) == frame) return control->caption().value_or(QString());
+        return u"no such frame"_s;
     }
     /// A program with LIRF open in the viewer, with two departures, one arrival and one approach.
     static std::unique_ptr<TestProgram> viewer() {

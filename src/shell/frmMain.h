@@ -113,6 +113,7 @@ private:
     const Services& services_;
     Presenter& presenter_;
 
+    ArchiveSearch search_;
     std::optional<QStringList> languages_; ///< the language list, built once per run
     bool refusedDesignator_ = false;       ///< a designator above 18 is about to be told and emptied
     QString presenterTextPath_;            ///< of the open airport

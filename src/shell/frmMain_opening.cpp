@@ -52,7 +52,8 @@ void frmMain::txtNomeAeroporto_KeyUp(int key) {
     c->cmdElabora.setUsable(Usable::Yes);
     c->Image1[1].setShown(Shown::No);
     c->fraRicerca.setShown(Shown::Yes);
-    const auto listing = std::make_shared<ArchiveListing>(paths_.archiveFolder(), c->txtNomeAeroporto.text());
+    const auto listing = std::make_shared<const ArchiveListing>(
+        search_.list(paths_.archiveFolder(), c->txtNomeAeroporto.text()));
     c->lstWords.setRows(listing->size(), [listing](int row) { return listing->text(row); });
     if (listing->size() == 0) c->lstWords.setHint(emptyListHint());
     if (key == Qt::Key_Down && listing->size() > 0) c->lstWords.setFocus();

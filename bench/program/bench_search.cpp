@@ -1,6 +1,8 @@
-// The promise: a key released in the name box over an archive of 50,000 airports is answered, list on the
-// screen, in at most three times what only walking through the archive's directory takes.
+// The promise: a key released in the name box over an archive of 50,000 airports is answered, list painted,
+// in at most twice what only walking through the archive's directory takes; and while the archive is
+// unchanged, the rows are in the list in a hundredth of the time of reading it again.
 
+#include "archive/listing.h"
 #include "forms/look.h"
 #include "measuring.h"
 #include "painted.h"
@@ -8,6 +10,8 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -22,7 +26,7 @@ namespace {
 
 constexpr int folderCount = 50'000;
 constexpr int rounds = 31;
-constexpr double budget = 3;
+constexpr int keptKeys = 20; ///< a round: one alone is near the grain of the clock
 
 /// The i-th of 456,976 codes of four letters, spread over the alphabet; different for different i.
 QString code(int i) {
@@ -38,7 +42,19 @@ void walk(const QByteArray& folder) {
         while (::readdir(dir) != nullptr) ++count; // NOLINT(concurrency-mt-unsafe): one thread only
         ::closedir(dir);
     }
-    if (count != folderCount + 2) qFatal("%d entries", count);
+    if (count < folderCount + 2) qFatal("%d entries", count);
+}
+
+/// Waits until the archive has been left alone long enough to be trusted unread.
+void waitUntilKept(const QString& archive) {
+    ArchiveSearch search;
+    QElapsedTimer patience;
+    patience.start();
+    do {
+        if (patience.elapsed() > 10'000) qFatal("this file system does not tell when a folder changes");
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
+        static_cast<void>(search.list(archive, {}));
+    } while (!search.keeps(archive));
 }
 
 } // namespace
@@ -58,15 +74,39 @@ int main(int argc, char** argv) {
     const auto release = [&] {
         QKeyEvent event(QEvent::KeyRelease, Qt::Key_I, Qt::NoModifier);
         QCoreApplication::sendEvent(nameBox, &event);
+    };
+    const auto releaseAndPaint = [&] {
+        release();
         list.wait();
+    };
+    const auto claim = [&](const char* folders, const QString& typed) {
+        const auto rows = TestProgram::rows(test.mainWindow(), u"lstWords"_s).size();
+        return u"A key released over 50,000 airports, %1, \"%2\" typed, %3 rows"_s
+            .arg(QLatin1StringView(folders), typed)
+            .arg(rows);
+    };
+    bool more = false;
+    const auto change = [&] {
+        more = !more;
+        if (!(more ? QDir(archive).mkdir(u"ZZZZZ"_s) : QDir(archive).rmdir(u"ZZZZZ"_s))) qFatal("no change");
     };
     for (const QString& typed : {u""_s, u"L"_s, u"LI"_s}) {
         nameBox->setText(typed);
-        const auto times = medians(rounds, {release, [&] { walk(folder); }});
-        const auto rows = TestProgram::rows(test.mainWindow(), u"lstWords"_s).size();
-        const QString claim =
-            u"A key released over 50,000 airports, \"%1\" typed, %2 rows"_s.arg(typed).arg(rows);
-        printRatio(qPrintable(claim), times[0], "walk through the directory", times[1], budget);
+        const auto times = medians(rounds, {[&] { change(), releaseAndPaint(); }, [&] { walk(folder); }});
+        printRatio(qPrintable(claim("one just changed, painted", typed)), times[0],
+                   "walk through the directory", times[1], 2);
+    }
+    waitUntilKept(archive);
+    for (const QString& typed : {u""_s, u"L"_s, u"LI"_s}) {
+        nameBox->setText(typed);
+        const auto keys = [&] {
+            for (int i = 0; i < keptKeys; ++i) release();
+        };
+        const auto again = [&] { static_cast<void>(ArchiveSearch().list(archive, typed)); };
+        const auto times = medians(rounds, {keys, releaseAndPaint, again});
+        printRatio(qPrintable(claim("unchanged, rows in the list", typed)), times[0] / keptKeys,
+                   "reading it again", times[2], 0.01);
+        printRatio(qPrintable(claim("unchanged, painted", typed)), times[1], "reading it again", times[2], 0);
     }
     return 0;
 }

@@ -9,7 +9,7 @@
 #include <cstring>
 #include <linux/magic.h>
 #include <memory>
-#include <optional>
+#include <numeric>
 #include <sys/stat.h>
 #include <sys/statfs.h>
 
@@ -50,6 +50,25 @@ quint64 sortingKey(std::string_view folded, std::size_t depth) {
     char bytes[sizeof(quint64)] = {};
     std::memcpy(bytes, rest.data(), std::min(rest.size(), sizeof bytes));
     return qFromBigEndian<quint64>(bytes);
+}
+
+/// Sorts by key, byte for byte from the last: for many entries several times as quick as by comparing.
+void sortByKey(KeyedEntry* begin, KeyedEntry* end) {
+    constexpr std::ptrdiff_t many = 1024;
+    if (end - begin < many) {
+        std::sort(begin, end, [](const auto& left, const auto& right) { return left.key < right.key; });
+        return;
+    }
+    std::vector<KeyedEntry> other(static_cast<std::size_t>(end - begin));
+    for (unsigned shift = 0; shift < 64; shift += 8) {
+        const auto byte = [shift](const KeyedEntry& entry) { return (entry.key >> shift) & 0xFFU; };
+        std::array<std::size_t, 257> places{}; // of each byte value's first entry
+        for (const KeyedEntry* at = begin; at != end; ++at) ++places[byte(*at) + 1];
+        if (std::ranges::find(places, other.size()) != places.end()) continue; // all alike
+        std::partial_sum(places.begin(), places.end(), places.begin());
+        for (const KeyedEntry* at = begin; at != end; ++at) other[places[byte(*at)]++] = *at;
+        std::ranges::copy(other, begin);
+    }
 }
 
 qint64 nanoseconds(const timespec& time) { return qint64{time.tv_sec} * 1'000'000'000 + time.tv_nsec; }
@@ -138,8 +157,7 @@ void FolderEntries::sort() {
 /// number, which is far quicker than by comparing names, and those alike in these, too, by what follows.
 void FolderEntries::sortBehind(std::size_t depth, KeyedEntry* begin, KeyedEntry* end) const {
     for (KeyedEntry* at = begin; at != end; ++at) at->key = sortingKey(folded(at->entry), depth);
-    std::sort(begin, end,
-              [](const KeyedEntry& left, const KeyedEntry& right) { return left.key < right.key; });
+    sortByKey(begin, end);
     for (KeyedEntry* group = begin; group != end;) {
         KeyedEntry* next =
             std::find_if(group, end, [group](const KeyedEntry& at) { return at.key != group->key; });

@@ -1,5 +1,7 @@
-// The promise: putting a language's texts on the main window costs at most twice what opening, reading and
-// scanning the language file once a text does. Between two controls the pass handles the events that wait.
+// The promise: putting a language's texts on the main window costs at most one and a half times what opening,
+// reading and scanning the language file once a text does, with files that have grown to 20 and 63 KB; with
+// the small ones that are shipped, whose reading costs next to nothing, at most twice. Between two controls
+// the pass handles the events that wait.
 
 #include "files/lookup.h"
 #include "forms/look.h"
@@ -15,6 +17,7 @@
 #include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 #include <vector>
 
 using namespace quarvel;
@@ -24,7 +27,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int rounds = 101;
-constexpr double budget = 2;
 
 /// Every key that one pass over the window looks up.
 std::vector<QByteArray> keysOf(const frmMain& window) {
@@ -60,7 +62,7 @@ void growTo(TestProgram& test, const QString& file, qsizetype size) {
     test.write(file, grown + window);
 }
 
-void compare(TestProgram& test, const char* file) {
+void compare(TestProgram& test, const char* file, double budget) {
     QString italian = u"Italiano"_s;
     QString english = u"English"_s;
     const modLanguageSupport same(test.path({}), italian);
@@ -89,8 +91,10 @@ int main(int argc, char** argv) {
     applyProgramLook(application);
     TestProgram test;
     test.start();
-    compare(test, "file as shipped");
-    for (const QString& file : {u"Italiano.lng"_s, u"English.lng"_s}) growTo(test, file, 20 * 1024);
-    compare(test, "file of 20 KB");
+    compare(test, "file as shipped", 2);
+    for (const auto& [size, file] : {std::pair{20'000, "file of 20 KB"}, {63'000, "file of 63 KB"}}) {
+        for (const QString& language : {u"Italiano.lng"_s, u"English.lng"_s}) growTo(test, language, size);
+        compare(test, file, 1.5);
+    }
     return 0;
 }

@@ -11,6 +11,15 @@ namespace {
 
 constexpr int captionIndent = 8; // pixels from the frame's left edge
 
+/// A line of one pixel inside `outline`. As four full bars, since the toolkit paints the sides of a rectangle
+/// row by row, and hands the rows to threads that cost more than the painting.
+void drawOutline(QPainter& painter, const QRect& outline, const QColor& colour) {
+    painter.fillRect(QRect(outline.left(), outline.top(), outline.width(), 1), colour);
+    painter.fillRect(QRect(outline.left(), outline.bottom(), outline.width(), 1), colour);
+    painter.fillRect(QRect(outline.left(), outline.top(), 1, outline.height()), colour);
+    painter.fillRect(QRect(outline.right(), outline.top(), 1, outline.height()), colour);
+}
+
 /// The toolkit's own group box measures its title while it is made, which would load a font for every hidden
 /// frame.
 class FrameBox : public QWidget, public WithAccessibleRole {
@@ -27,13 +36,10 @@ protected:
         QPainter painter(this);
         const int middle = fontMetrics().height() / 2;
         const int edge = title().isEmpty() ? 0 : middle;
-        QColor line = palette().color(QPalette::WindowText);
-        line.setAlpha(110);
-        painter.setPen(line);
         // Square, and open where it leaves the window: frames lie edge to edge and partly under what they
         // hold, where half a round corner or a bit of a side would be a smudge.
-        const QRectF outline = QRectF(rect()).adjusted(x() > 0 ? 0.5 : -1.5, edge + 0.5, -0.5, -0.5);
-        painter.drawRect(outline);
+        const QRect outline = rect().adjusted(x() > 0 ? 0 : -2, edge, 0, 0);
+        drawOutline(painter, outline, lineColour());
         if (title().isEmpty()) return;
         const int begin = captionIndent + std::max(0, -x()); // a frame may begin left of its window
         const QRect text(begin, 0, width() - begin - captionIndent, fontMetrics().height());
@@ -45,6 +51,18 @@ protected:
     }
 
 private:
+    /// The text's colour at less than half its strength, mixed beforehand: a full colour is painted quicker.
+    [[nodiscard]] QColor lineColour() const {
+        constexpr int strength = 110;
+        const QColor text = palette().color(QPalette::WindowText);
+        const QColor ground = palette().color(QPalette::Window);
+        const auto mixed = [](int over, int under) {
+            return (over * strength + under * (255 - strength)) / 255;
+        };
+        return {mixed(text.red(), ground.red()), mixed(text.green(), ground.green()),
+                mixed(text.blue(), ground.blue())};
+    }
+
     QString title_;
 };
 

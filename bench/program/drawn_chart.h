@@ -11,14 +11,15 @@
 namespace quarvel::bench {
 
 /// A GIF of a chart with the density of a procedure chart: routes, circles and words in small print, smoothed
-/// where there are more than two shades from white to black. Needs a QGuiApplication for the letters.
-inline QByteArray drawnChart(QSize size, int shades) {
+/// where there are more than two shades from white to black; another one for each seed. Needs a QGuiApplication
+/// for the letters.
+inline QByteArray drawnChart(QSize size, int shades, quint32 seed = 7) {
     QImage page(size, QImage::Format_Grayscale8);
     page.fill(Qt::white);
     QPainter painter(&page);
     painter.setRenderHint(QPainter::Antialiasing, shades > 2);
     painter.setPen(QPen(Qt::black, 3));
-    QRandomGenerator random(7);
+    QRandomGenerator random(seed);
     const auto point = [&] { return QPoint(random.bounded(size.width()), random.bounded(size.height())); };
     for (int i = 0; i < 150; ++i) painter.drawLine(point(), point());
     for (int i = 0; i < 60; ++i) painter.drawEllipse(point(), 20 + i * 8, 20 + i * 8);

@@ -28,4 +28,20 @@ std::vector<Pixel> ScreenPixels::again(const std::vector<Pixel>& pixels) const {
     return seen;
 }
 
+std::vector<Pixel> ScreenPixels::all(Area area) const {
+    std::vector<Pixel> pixels;
+    const auto asked = xcb_get_image(connection_, XCB_IMAGE_FORMAT_Z_PIXMAP, screen_->root, area.x, area.y,
+                                     area.width, area.height, ~std::uint32_t{0});
+    xcb_get_image_reply_t* reply = xcb_get_image_reply(connection_, asked, nullptr);
+    if (reply == nullptr) return pixels; // a part outside the screen
+    const std::uint8_t* at = xcb_get_image_data(reply);
+    for (int y = area.y; y < area.y + area.height; ++y)
+        for (int x = area.x; x < area.x + area.width; ++x, at += sizeof(std::uint32_t)) {
+            pixels.push_back({static_cast<std::int16_t>(x), static_cast<std::int16_t>(y), 0});
+            std::memcpy(&pixels.back().colour, at, sizeof pixels.back().colour);
+        }
+    std::free(reply);
+    return pixels;
+}
+
 } // namespace quarvel::bench

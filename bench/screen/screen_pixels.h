@@ -10,6 +10,16 @@ struct Pixel {
     std::int16_t x; ///< of the screen, pixels
     std::int16_t y;
     std::uint32_t colour; ///< as the screen keeps it
+
+    friend bool operator==(const Pixel&, const Pixel&) = default;
+};
+
+/// A part of the screen, in its pixels.
+struct Area {
+    std::int16_t x = 0;
+    std::int16_t y = 0;
+    std::uint16_t width = 0;
+    std::uint16_t height = 0;
 };
 
 /// What stands on the X screen, as anyone before it would see it: the root window with all windows on it.
@@ -29,6 +39,8 @@ public:
     [[nodiscard]] std::vector<Pixel> grid(int step) const;
     /// The pixels at the same places, as they are now.
     [[nodiscard]] std::vector<Pixel> again(const std::vector<Pixel>& pixels) const;
+    /// All pixels of an area, row by row.
+    [[nodiscard]] std::vector<Pixel> all(Area area) const;
 
 private:
     xcb_connection_t* connection_;

@@ -191,8 +191,11 @@ EntryKind FolderEntries::kindNow(std::size_t entry) const {
 
 std::pair<std::size_t, std::size_t> FolderEntries::beginningWith(std::string_view beginning) const {
     const auto head = [&](const Entry& entry) { return folded(entry).substr(0, beginning.size()); };
-    const auto range = std::ranges::equal_range(entries_, beginning, {}, head);
-    return {range.begin() - entries_.begin(), range.end() - entries_.begin()};
+    const auto first = std::partition_point(entries_.begin(), entries_.end(),
+                                            [&](const Entry& entry) { return head(entry) < beginning; });
+    const auto end = std::partition_point(first, entries_.end(),
+                                          [&](const Entry& entry) { return head(entry) == beginning; });
+    return {first - entries_.begin(), end - entries_.begin()};
 }
 
 bool FolderEntries::areCurrent(const QByteArray& folder, std::chrono::nanoseconds settled) const {

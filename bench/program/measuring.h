@@ -52,10 +52,12 @@ inline std::vector<double> medians(int rounds, const Pieces& pieces) {
 
 /// A row for `measured` against `base` (both in milliseconds), whose ratio is to be at most `budget`; a
 /// budget of 0 is none.
-inline void printRatio(const char* claim, double measured, const char* baseName, double base, double budget) {
+inline void printRatio(const char* claim, double measured, const char* baseName, double base, double budget,
+                       const char* unit = "ms") {
     const double ratio = measured / base;
     const int places = ratio < 0.1 ? 4 : 2;
-    std::printf("%s\t%.*f ms\t%s: %.2f ms\t%.*f\t", claim, places, measured, baseName, base, places, ratio);
+    std::printf("%s\t%.*f %s\t%s: %.2f %s\t%.*f\t", claim, places, measured, unit, baseName, base, unit,
+                places, ratio);
     if (budget > 0)
         std::printf("at most %g times\t%s\n", budget, ratio <= budget ? "within" : "OVER");
     else

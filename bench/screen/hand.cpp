@@ -19,7 +19,8 @@ constexpr std::uint16_t smallest = 64; // pixels, of a window that somebody is m
 struct Freed {
     void operator()(void* reply) const { std::free(reply); } // the library hands replies over
 };
-template <class Reply> using Answer = std::unique_ptr<Reply, Freed>;
+template <class Reply>
+using Answer = std::unique_ptr<Reply, Freed>;
 
 } // namespace
 
@@ -107,8 +108,8 @@ xcb_keycode_t Hand::keyOf(std::uint32_t keysym) const {
 }
 
 void Hand::send(std::uint8_t kind, std::uint8_t detail, int x, int y) const {
-    xcb_test_fake_input(connection_, kind, detail, XCB_CURRENT_TIME, screen_->root, static_cast<std::int16_t>(x),
-                        static_cast<std::int16_t>(y), 0);
+    xcb_test_fake_input(connection_, kind, detail, XCB_CURRENT_TIME, screen_->root,
+                        static_cast<std::int16_t>(x), static_cast<std::int16_t>(y), 0);
 }
 
 void Hand::press(std::uint32_t keysym) const {

@@ -15,10 +15,12 @@ namespace {
 constexpr auto patience = 10s;
 constexpr auto betweenLooks = 150us;
 
-/// One pixel out of each of `across` x `down` cells of an area, where there is one among those that changed: in the
-/// upper half the first of its cell, in the lower half the last, so that first and last rows are among them.
+/// One pixel out of each of `across` x `down` cells of an area, where there is one among those that changed:
+/// in the upper half the first of its cell, in the lower half the last, so that first and last rows are among
+/// them.
 std::vector<Pixel> spread(const std::vector<Pixel>& changed, Area area, int across, int down) {
-    std::vector<std::optional<Pixel>> cells(static_cast<std::size_t>(across) * static_cast<std::size_t>(down));
+    std::vector<std::optional<Pixel>> cells(static_cast<std::size_t>(across) *
+                                            static_cast<std::size_t>(down));
     for (const Pixel& pixel : changed) {
         const int column = (pixel.x - area.x) * across / area.width;
         const int row = (pixel.y - area.y) * down / area.height;

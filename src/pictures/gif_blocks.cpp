@@ -3,7 +3,9 @@
 #include "pictures/lzw.h"
 
 #include <QByteArrayView>
+#include <algorithm>
 #include <cstddef>
+#include <numeric>
 #include <utility>
 
 namespace quarvel {
@@ -73,6 +75,7 @@ private:
     std::optional<Fault> image();
     std::optional<Fault> firstImage();
     void table(std::uint8_t flags);
+    void orderColours();
     void skipTable(std::uint8_t flags) { bytes_.take(flags & hasTable ? tableBytes(flags) : 0); }
     static std::size_t tableBytes(std::uint8_t flags) { return std::size_t{6} << (flags & 7); }
     void skipSubBlocks() {
@@ -127,6 +130,19 @@ void BlockWalk::table(std::uint8_t flags) {
     }
 }
 
+/// Painting needs no palette where an index is a shade.
+void BlockWalk::orderColours() {
+    auto& palette = frame_.palette;
+    auto& values = frame_.values;
+    std::iota(values.begin(), values.end(), std::uint8_t{0});
+    const auto isGrey = [](std::uint32_t colour) { return colour == (black | (colour & 255) * 0x010101); };
+    if (!std::all_of(palette.begin(), palette.end(), isGrey)) return;
+    for (std::size_t i = 0; i < palette.size(); ++i) {
+        values[i] = static_cast<std::uint8_t>(palette[i] & 255);
+        palette[i] = black | static_cast<std::uint32_t>(i) * 0x010101;
+    }
+}
+
 std::optional<Fault> BlockWalk::extension() {
     if (bytes_.byte() == graphicControl && !haveFrame_) {
         if (bytes_.byte() != 4) return Fault::Damaged;
@@ -163,6 +179,7 @@ std::optional<Fault> BlockWalk::firstImage() {
     frame_.interlaced = flags & isInterlaced;
     table(flags);
     if (frame_.transparent) frame_.palette[*frame_.transparent] = white;
+    orderColours();
     frame_.rootBits = bytes_.byte();
     if (frame_.rootBits < 2 || frame_.rootBits > 8) return Fault::Damaged;
     joinSubBlocks();

@@ -24,7 +24,7 @@ Pixels uninitialised(std::size_t bytes) { return Pixels(new std::uint8_t[bytes])
 Pixels unpack(const GifFrame& frame) {
     const std::size_t count = area(frame.place.size());
     Pixels pixels = uninitialised(count + lzwOutputSlack);
-    return unpackLzw(frame.codes(), frame.rootBits, pixels.get(), count) ? std::move(pixels) : nullptr;
+    return unpackLzw(frame.codes(), frame.rootBits, frame.values, pixels.get(), count) ? std::move(pixels) : nullptr;
 }
 
 /// How white a colour is, 0 to 765.

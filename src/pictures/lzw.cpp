@@ -51,8 +51,8 @@ void copyRun(std::uint8_t* to, const std::uint8_t* from, std::size_t length) {
 // for. In the pixels both lie side by side, so no table of strings is kept: the entry made by the n-th code
 // since the last clear code is the run of pixels that begins where that code's pixels begin and ends with the
 // next code's first one.
-bool unpackLzw(std::span<const std::uint8_t> packed, unsigned rootBits, std::uint8_t* pixels,
-               std::size_t count) {
+bool unpackLzw(std::span<const std::uint8_t> packed, unsigned rootBits,
+               const std::array<std::uint8_t, 256>& values, std::uint8_t* pixels, std::size_t count) {
     const unsigned clearCode = 1u << rootBits;
     const unsigned firstEntry = clearCode + 2;
     const unsigned mostEntries = tableSize - firstEntry;
@@ -71,7 +71,7 @@ bool unpackLzw(std::span<const std::uint8_t> packed, unsigned rootBits, std::uin
         }
         if (codes <= mostEntries) starts[codes] = static_cast<std::uint32_t>(done);
         if (code < clearCode) {
-            pixels[done++] = static_cast<std::uint8_t>(code);
+            pixels[done++] = values[code];
         } else {
             const unsigned entry = code - firstEntry; // the end code wraps round and is no entry either
             if (entry >= std::min(codes, mostEntries)) return false;

@@ -1,10 +1,12 @@
 #include "pictures/painter.h"
 
 #include "pictures/axis.h"
+#include "pictures/grey_row.h"
 #include "pictures/ink_row.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 namespace quarvel {
 namespace {
@@ -15,7 +17,8 @@ constexpr std::uint32_t white = 0xFFFFFFFF;
 struct Scratch {
     Axis across;
     Axis down;
-    InkRow row;
+    GreyRow grey;
+    InkRow ink;
 };
 
 void copyRow(const Picture& picture, const Scratch& scratch, int y, std::uint32_t* line) {
@@ -27,26 +30,11 @@ void copyRow(const Picture& picture, const Scratch& scratch, int y, std::uint32_
     for (int x = 0; x < count; ++x) to[x] = palette[from[x]];
 }
 
-void filterRow(const Picture& picture, Scratch& scratch, int y, std::uint32_t* line) {
+/// Calls `paintRow` for each row of the target that shows some of the picture; everything beside it is white.
+template <class PaintRow>
+void paintRows(const Scratch& scratch, QImage& target, const PaintRow& paintRow) {
     const Axis& across = scratch.across;
     const Axis& down = scratch.down;
-    std::fill(line + across.begin(), line + across.end(), scratch.row.groundColour());
-    const float* shares = down.shares(y);
-    for (int k = 0; k < down.taps(); ++k) {
-        if (shares[k] == 0.0f) continue;
-        scratch.row.add(picture.row(down.first(y) + k) + scratch.row.firstColumn(), shares[k]);
-    }
-    scratch.row.pour(across, line);
-}
-
-void paintRows(const Picture& picture, Scratch& scratch, QImage& target) {
-    const Axis& across = scratch.across;
-    const Axis& down = scratch.down;
-    const bool natural = across.isNatural() && down.isNatural();
-    if (!natural) {
-        scratch.row.setColours(picture.palette(), picture.ground());
-        scratch.row.arrange(across);
-    }
     for (int y = 0; y < target.height(); ++y) {
         auto* line = reinterpret_cast<std::uint32_t*>(target.scanLine(y));
         if (y < down.begin() || y >= down.end()) {
@@ -54,12 +42,53 @@ void paintRows(const Picture& picture, Scratch& scratch, QImage& target) {
             continue;
         }
         std::fill(line, line + across.begin(), white);
-        if (natural)
-            copyRow(picture, scratch, y, line);
-        else
-            filterRow(picture, scratch, y, line);
+        paintRow(y, line);
         std::fill(line + across.end(), line + target.width(), white);
     }
+}
+
+void paintNatural(const Picture& picture, const Scratch& scratch, QImage& target) {
+    paintRows(scratch, target, [&](int y, std::uint32_t* line) { copyRow(picture, scratch, y, line); });
+}
+
+void paintGrey(const Picture& picture, Scratch& scratch, QImage& target) {
+    const Axis& down = scratch.down;
+    GreyRow& row = scratch.grey;
+    row.arrange(scratch.across);
+    const auto stride = static_cast<std::size_t>(picture.size().width());
+    paintRows(scratch, target, [&](int y, std::uint32_t* line) {
+        const float* shares = down.shares(y);
+        for (int from = 0, to = 0; from < down.taps(); from = to) {
+            while (to < down.taps() && shares[to] == shares[from]) ++to;
+            if (shares[from] == 0.0f) continue;
+            row.add(picture.row(down.first(y) + from) + row.firstColumn(), stride, to - from, shares[from]);
+        }
+        row.pour(scratch.across, line);
+    });
+}
+
+void paintColours(const Picture& picture, Scratch& scratch, QImage& target) {
+    const Axis& across = scratch.across;
+    const Axis& down = scratch.down;
+    InkRow& row = scratch.ink;
+    row.setColours(picture.palette(), picture.ground());
+    row.arrange(across);
+    paintRows(scratch, target, [&](int y, std::uint32_t* line) {
+        std::fill(line + across.begin(), line + across.end(), row.groundColour());
+        const float* shares = down.shares(y);
+        for (int k = 0; k < down.taps(); ++k)
+            if (shares[k] > 0) row.add(picture.row(down.first(y) + k) + row.firstColumn(), shares[k]);
+        row.pour(across, line);
+    });
+}
+
+void paintPart(const Picture& picture, Scratch& scratch, QImage& target) {
+    if (scratch.across.isNatural() && scratch.down.isNatural())
+        paintNatural(picture, scratch, target);
+    else if (picture.isGrey())
+        paintGrey(picture, scratch, target);
+    else
+        paintColours(picture, scratch, target);
 }
 
 bool isLength(double length) { return std::isfinite(length) && length > 0; }
@@ -79,7 +108,7 @@ void paintPicture(const Picture& picture, QSizeF stretched, QRect part, QImage& 
     if (scratch.across.isEmpty() || scratch.down.isEmpty())
         target.fill(white);
     else
-        paintRows(picture, scratch, target);
+        paintPart(picture, scratch, target);
 }
 
 } // namespace quarvel

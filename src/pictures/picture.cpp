@@ -27,6 +27,13 @@ std::uint8_t commonest(const GifPicture& gif) {
     return static_cast<std::uint8_t>(std::max_element(found.begin(), found.end()) - found.begin());
 }
 
+/// Whether every index is its own shade.
+bool isGreyScale(const std::array<std::uint32_t, 256>& palette) {
+    for (std::uint32_t i = 0; i < palette.size(); ++i)
+        if (palette[i] != (0xFF000000 | i * 0x010101)) return false;
+    return true;
+}
+
 } // namespace
 
 Result<Picture> Picture::read(const QString& path) {
@@ -42,6 +49,7 @@ Result<Picture> Picture::decode(const QByteArray& gif, const QString& path) {
     Picture picture;
     picture.size_ = content.size;
     picture.ground_ = commonest(content);
+    picture.grey_ = isGreyScale(content.palette);
     picture.pixels_ = std::move(content.pixels);
     picture.palette_ = std::make_shared<const std::array<std::uint32_t, 256>>(content.palette);
     return picture;

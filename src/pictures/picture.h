@@ -37,6 +37,10 @@ public:
     /// transparent shows as white paper.
     [[nodiscard]] const std::array<std::uint32_t, 256>& palette() const { return *palette_; }
 
+    /// Whether each palette index is its own shade of grey, 0 black to 255 white. All pictures without colour
+    /// are kept so.
+    [[nodiscard]] bool isGrey() const { return grey_; }
+
     /// The palette index that most of the picture shows, by a sample: a chart's paper. Only the speed of
     /// painting rests on it.
     [[nodiscard]] std::uint8_t ground() const { return ground_; }
@@ -44,6 +48,7 @@ public:
 private:
     QSize size_{0, 0};
     std::uint8_t ground_ = 0;
+    bool grey_ = false;
     std::shared_ptr<const std::uint8_t[]> pixels_;
     std::shared_ptr<const std::array<std::uint32_t, 256>> palette_;
 };

@@ -21,7 +21,7 @@ struct GifFrame {
     bool interlaced = false;
     std::optional<std::uint8_t> transparent; ///< the palette index that leaves the paper bare
     std::array<std::uint32_t, 256> palette;  ///< 0xFFRRGGBB; black where the file defines nothing
-    std::array<std::uint8_t, 256> values; ///< for each pixel value of the file, its index in `palette`
+    std::array<std::uint8_t, 256> values;    ///< for each pixel value of the file, its index in `palette`
     unsigned rootBits = 0;                   ///< the LZW code size, 2 to 8
     std::vector<std::uint8_t> packed; ///< the LZW codes, their sub-blocks joined, with the slack of lzw.h
 

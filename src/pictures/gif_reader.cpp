@@ -2,6 +2,7 @@
 
 #include "pictures/gif_blocks.h"
 #include "pictures/lzw.h"
+#include "pictures/pixel_memory.h"
 
 #include <algorithm>
 #include <cstring>
@@ -10,21 +11,18 @@
 namespace quarvel {
 namespace {
 
-using Pixels = std::unique_ptr<std::uint8_t[]>;
 constexpr std::uint32_t white = 0xFFFFFFFF;
 
 std::size_t area(QSize size) {
     return static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height());
 }
 
-/// Not filled beforehand: every byte is about to be written, and fresh memory costs as much as decoding.
-Pixels uninitialised(std::size_t bytes) { return Pixels(new std::uint8_t[bytes]); }
-
 /// The frame's rows in the order in which they are stored, or null when its codes are broken.
-Pixels unpack(const GifFrame& frame) {
+PixelMemory unpack(const GifFrame& frame) {
     const std::size_t count = area(frame.place.size());
-    Pixels pixels = uninitialised(count + lzwOutputSlack);
-    return unpackLzw(frame.codes(), frame.rootBits, frame.values, pixels.get(), count) ? std::move(pixels) : nullptr;
+    PixelMemory pixels = pixelMemory(count + lzwOutputSlack);
+    return unpackLzw(frame.codes(), frame.rootBits, frame.values, pixels.get(), count) ? std::move(pixels)
+                                                                                       : nullptr;
 }
 
 /// How white a colour is, 0 to 765.
@@ -91,11 +89,11 @@ void place(const GifFrame& frame, const std::uint8_t* stored, std::uint8_t* scre
     }
 }
 
-Pixels compose(GifFrame& frame, Pixels stored) {
+PixelMemory compose(GifFrame& frame, PixelMemory stored) {
     const QRect screen(QPoint(0, 0), frame.screen);
     if (frame.place == screen && !frame.interlaced) return stored;
     const std::size_t count = area(frame.screen);
-    Pixels composed = uninitialised(count);
+    PixelMemory composed = pixelMemory(count);
     if (!frame.place.contains(screen)) std::memset(composed.get(), paperIndex(frame, stored.get()), count);
     place(frame, stored.get(), composed.get());
     return composed;
@@ -107,9 +105,9 @@ Result<GifPicture> readGif(const QByteArray& gif, const QString& path) {
     auto read = readFirstFrame(gif, path);
     if (!read) return read.failure();
     GifFrame frame = read.take();
-    Pixels stored = unpack(frame);
+    PixelMemory stored = unpack(frame);
     if (!stored) return Failure{Fault::Damaged, path, {}};
-    Pixels composed = compose(frame, std::move(stored));
+    PixelMemory composed = compose(frame, std::move(stored));
     return GifPicture{frame.screen, std::move(composed), frame.palette};
 }
 

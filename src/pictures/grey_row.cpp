@@ -53,7 +53,8 @@ void GreyRow::addSum(const std::uint8_t* source, std::size_t stride, int count, 
     std::copy_n(source, columns_, together);
     for (int row = 1; row < count; ++row) {
         source += stride;
-        for (std::size_t i = 0; i < columns_; ++i) together[i] = static_cast<std::uint16_t>(together[i] + source[i]);
+        for (std::size_t i = 0; i < columns_; ++i)
+            together[i] = static_cast<std::uint16_t>(together[i] + source[i]);
     }
     for (std::size_t i = 0; i < columns_; ++i) sums[i] += static_cast<float>(together[i]) * share;
 }
@@ -63,7 +64,8 @@ void GreyRow::pour(const Axis& across, std::uint32_t* line) {
     for (int x = across.begin(); x < across.end(); ++x) {
         const float* sums = sums_.data() + (across.first(x) - firstColumn_);
         Lanes light{0.5f};
-        for (std::size_t k = 0; k < taps_; k += lanes, shares += lanes) light += load(sums + k) * load(shares);
+        for (std::size_t k = 0; k < taps_; k += lanes, shares += lanes)
+            light += load(sums + k) * load(shares);
         line[x] = 0xFF000000u | static_cast<std::uint32_t>(static_cast<int>(total(light))) * 0x010101u;
     }
     std::fill(sums_.begin(), sums_.end(), 0.0f);

@@ -35,7 +35,7 @@ private:
     std::size_t columns_ = 0;
     std::size_t taps_ = 0; // of a target column, filled up to whole vectors with shares of 0
     std::vector<std::uint16_t> together_;
-    std::vector<float> sums_; // as many more as a vector reads past the last column, always 0
+    std::vector<float> sums_;   // as many more as a vector reads past the last column, always 0
     std::vector<float> shares_; // taps_ a target column
 };
 

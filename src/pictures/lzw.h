@@ -14,10 +14,10 @@ constexpr std::size_t lzwOutputSlack = 64;
 
 /// Unpacks the LZW codes of a GIF frame (variable width up to 12 bits, lowest bit first, with clear and end
 /// codes and with deferred clearing, as appendix F of the GIF89a definition has it). `packed` excludes its
-/// slack; `rootBits` is the frame's code size, 2 to 8; `values` has what is to be written for each pixel value
-/// of the file, which costs nothing, as longer runs are copies of single pixels; `pixels` is the start of `count` bytes (at most 4 G)
-/// plus slack and need not be initialised. Codes past the last pixel are not looked at. False when the codes
-/// end, or name an entry that does not exist, before all pixels are there.
+/// slack; `rootBits` is the frame's code size, 2 to 8; `values` has what is to be written for each pixel
+/// value of the file, which costs nothing, as longer runs are copies of single pixels; `pixels` is the start
+/// of `count` bytes (at most 4 G) plus slack and need not be initialised. Codes past the last pixel are not
+/// looked at. False when the codes end, or name an entry that does not exist, before all pixels are there.
 [[nodiscard]] bool unpackLzw(std::span<const std::uint8_t> packed, unsigned rootBits,
                              const std::array<std::uint8_t, 256>& values, std::uint8_t* pixels,
                              std::size_t count);

@@ -22,6 +22,7 @@ public:
     [[nodiscard]] bool isEmpty() const { return begin_ == end_; }
 
     [[nodiscard]] bool isNatural() const { return scale_ == Scale::Natural; }
+    [[nodiscard]] bool isSmaller() const { return scale_ == Scale::Smaller; }
     [[nodiscard]] int taps() const { return taps_; }
     /// The first source pixel of target pixel `i`, begin() <= i < end(); it never falls from one to the next,
     /// and all taps() of them exist.

@@ -85,7 +85,7 @@ void paintColours(const Picture& picture, Scratch& scratch, QImage& target) {
 void paintPart(const Picture& picture, Scratch& scratch, QImage& target) {
     if (scratch.across.isNatural() && scratch.down.isNatural())
         paintNatural(picture, scratch, target);
-    else if (picture.isGrey())
+    else if (picture.isGrey() && scratch.down.isSmaller()) // enlarged, passing over blank paper is worth more
         paintGrey(picture, scratch, target);
     else
         paintColours(picture, scratch, target);

@@ -11,8 +11,8 @@
 namespace quarvel::bench {
 
 /// A GIF of a chart with the density of a procedure chart: routes, circles and words in small print, smoothed
-/// where there are more than two shades from white to black; another one for each seed. Needs a QGuiApplication
-/// for the letters.
+/// where there are more than two shades from white to black; another one for each seed. Needs a
+/// QGuiApplication for the letters.
 inline QByteArray drawnChart(QSize size, int shades, quint32 seed = 7) {
     QImage page(size, QImage::Format_Grayscale8);
     page.fill(Qt::white);

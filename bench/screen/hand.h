@@ -9,8 +9,8 @@
 
 namespace quarvel::bench {
 
-/// The hand of a user before a bare X screen without a window manager: it puts windows in their places, and what
-/// it does with keys, buttons and wheel reaches the programs as if a keyboard and a mouse had sent it.
+/// The hand of a user before a bare X screen without a window manager: it puts windows in their places, and
+/// what it does with keys, buttons and wheel reaches the programs as if a keyboard and a mouse had sent it.
 class Hand {
 public:
     Hand();
@@ -18,11 +18,11 @@ public:
     Hand(const Hand&) = delete;
     Hand& operator=(const Hand&) = delete;
 
-    /// Waits for a window on the screen that was not there when this was last asked, or at the beginning; fails
-    /// after ten seconds.
+    /// Waits for a window on the screen that was not there when this was last asked, or at the beginning;
+    /// fails after ten seconds.
     [[nodiscard]] xcb_window_t newWindow();
-    /// Puts a window before all others at a place of the screen, and gives it the keys. It counts as placed once the
-    /// X server has done so; the program learns it in its own time.
+    /// Puts a window before all others at a place of the screen, and gives it the keys. It counts as placed
+    /// once the X server has done so; the program learns it in its own time.
     void place(xcb_window_t window, Area area) const;
     void resize(xcb_window_t window, std::uint16_t width, std::uint16_t height) const;
     void focus(xcb_window_t window) const;

@@ -7,11 +7,12 @@
 
 namespace quarvel::bench {
 
-/// By what a finished picture is known: some of its pixels that were otherwise before, spread over all of it up to
-/// its first and last rows.
+/// By what a finished picture is known: some of its pixels that were otherwise before, spread over all of it
+/// up to its first and last rows.
 struct Sight {
-    std::vector<Pixel> few;  ///< that are looked at again and again, some 24
-    std::vector<Pixel> many; ///< that are asked for once these stand, in case a coarse picture came before the fine
+    std::vector<Pixel> few; ///< that are looked at again and again, some 24
+    std::vector<Pixel>
+        many; ///< that are asked for once these stand, in case a coarse picture came before the fine
 };
 
 /// Watches a part of the screen while something is done.
@@ -22,13 +23,17 @@ public:
     /// Does something and waits until the screen has been quiet for 300 ms: what stands then in `area` is the
     /// picture that it leads to. Fails when nothing has changed there.
     [[nodiscard]] Sight learn(Area area, const std::function<void()>& action) const;
-    /// From the action to the moment that the picture stands on the screen, in milliseconds; fails after ten seconds.
+    /// From the action to the moment that the picture stands on the screen, in milliseconds; fails after ten
+    /// seconds.
     [[nodiscard]] double timeTo(const std::function<void()>& action, const Sight& picture) const;
-    /// Waits until an area has been quiet for 300 ms, but for a caret that blinks, and tells what stands there.
+    /// Waits until an area has been quiet for 300 ms, but for a caret that blinks, and tells what stands
+    /// there.
     [[nodiscard]] std::vector<Pixel> settled(Area area) const;
 
 private:
-    [[nodiscard]] bool stands(const std::vector<Pixel>& pixels) const { return screen_.again(pixels) == pixels; }
+    [[nodiscard]] bool stands(const std::vector<Pixel>& pixels) const {
+        return screen_.again(pixels) == pixels;
+    }
 
     const ScreenPixels& screen_;
 };

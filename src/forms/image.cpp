@@ -31,7 +31,7 @@ QImage stripFor(QSize size) {
     static std::vector<QRgb> pixels;
     const auto needed = static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height());
     if (pixels.size() < needed) pixels.resize(needed);
-    return {reinterpret_cast<uchar*>(pixels.data()), size.width(), size.height(), 4 * size.width(),
+    return {reinterpret_cast<uchar*>(pixels.data()), size.width(), size.height(), qsizetype{4} * size.width(),
             QImage::Format_RGB32};
 }
 

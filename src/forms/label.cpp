@@ -37,7 +37,8 @@ public:
     void press() override { owner->clicked.raise(); }
 
 protected:
-    /// For a label that takes the focus the toolkit lays out a document; no link is focused before it is seen.
+    /// For a label that takes the focus the toolkit lays out a document; no link is focused before it is
+    /// seen.
     void showEvent(QShowEvent* event) override {
         setFocusPolicy(Qt::TabFocus);
         MouseLabel::showEvent(event);

@@ -16,6 +16,7 @@ namespace quarvel {
 enum class Packing {
     Clearing, ///< LZW that clears its table once it is full
     Deferred, ///< LZW that goes on with the full table to the end
+    Restless, ///< LZW that clears its table, twice, after every seventh code
 };
 
 /// A GIF file to be made: one frame on a logical screen.
@@ -26,8 +27,13 @@ struct GifRecipe {
     std::vector<std::uint32_t> colours; ///< 0xRRGGBB, 1 to 256 of them; the table is filled up with black
     Packing packing = Packing::Clearing;
     bool interlaced = false;
-    bool moreBlocks = false; ///< a comment, an application's block and, behind the frame, a second frame
+    /// A comment, an application's block and, behind the frame, a second one of other pixels, one of them
+    /// clear.
+    bool moreBlocks = false;
     std::optional<std::uint8_t> transparent = {};
+    std::vector<std::uint32_t> ownColours = {}; ///< the frame's own table, if any
+    unsigned spareBits = 0;                     ///< by so much the code size is larger than it need be
+    qsizetype blockBytes = 255;                 ///< how large the blocks of codes are, 1 to 255
 };
 
 namespace gif_maker {
@@ -70,6 +76,7 @@ inline QByteArray lzw(const std::vector<std::uint8_t>& pixels, unsigned rootBits
         next = clear + 2;
     };
     startAnew();
+    unsigned codes = 0;
     unsigned code = pixels.at(0);
     for (std::size_t i = 1; i < pixels.size(); ++i) {
         const std::uint8_t pixel = pixels[i];
@@ -84,6 +91,10 @@ inline QByteArray lzw(const std::vector<std::uint8_t>& pixels, unsigned rootBits
             ++next;
         }
         if (next == 4096 && packing == Packing::Clearing) startAnew();
+        if (packing == Packing::Restless && ++codes % 7 == 0) {
+            startAnew();
+            startAnew();
+        }
         code = pixel;
     }
     out.put(code, width);
@@ -92,9 +103,9 @@ inline QByteArray lzw(const std::vector<std::uint8_t>& pixels, unsigned rootBits
     return out.finish();
 }
 
-inline void subBlocks(QByteArray& out, const QByteArray& bytes) {
-    for (qsizetype at = 0; at < bytes.size(); at += 255) {
-        const QByteArray block = bytes.mid(at, 255);
+inline void subBlocks(QByteArray& out, const QByteArray& bytes, qsizetype most = 255) {
+    for (qsizetype at = 0; at < bytes.size(); at += most) {
+        const QByteArray block = bytes.mid(at, most);
         out.append(static_cast<char>(block.size()));
         out.append(block);
     }
@@ -130,11 +141,21 @@ inline void frame(QByteArray& out, const GifRecipe& recipe) {
     out.append(',');
     for (const int value : {recipe.place.x(), recipe.place.y(), recipe.place.width(), recipe.place.height()})
         word(out, value);
-    out.append(recipe.interlaced ? '\x40' : '\0');
-    const auto rootBits = static_cast<unsigned>(std::max(2, tableBits(recipe.colours)));
+    const bool hasTable = !recipe.ownColours.empty();
+    out.append(static_cast<char>((recipe.interlaced ? 0x40 : 0) |
+                                 (hasTable ? 0x80 | (tableBits(recipe.ownColours) - 1) : 0)));
+    if (hasTable) table(out, recipe.ownColours);
+    const auto rootBits = static_cast<unsigned>(std::max(2, tableBits(recipe.colours))) + recipe.spareBits;
     out.append(static_cast<char>(rootBits));
     const auto& rows = recipe.interlaced ? interlacedRows(recipe.pixels, recipe.place.size()) : recipe.pixels;
-    subBlocks(out, lzw(rows, rootBits, recipe.packing));
+    subBlocks(out, lzw(rows, rootBits, recipe.packing), recipe.blockBytes);
+}
+
+inline void graphicControl(QByteArray& out, std::uint8_t transparent) {
+    out.append("!\xF9\x04\x01");
+    word(out, 0);
+    out.append(static_cast<char>(transparent));
+    out.append('\0');
 }
 
 } // namespace gif_maker
@@ -153,14 +174,14 @@ inline QByteArray makeGif(const GifRecipe& recipe) {
         out.append("!\xFF");
         subBlocks(out, "NETSCAPE2.0");
     }
-    if (recipe.transparent) {
-        out.append("!\xF9\x04\x01");
-        word(out, 0);
-        out.append(static_cast<char>(*recipe.transparent));
-        out.append('\0');
-    }
+    if (recipe.transparent) graphicControl(out, *recipe.transparent);
     frame(out, recipe);
-    if (recipe.moreBlocks) frame(out, recipe);
+    if (recipe.moreBlocks) {
+        GifRecipe second = recipe;
+        std::reverse(second.pixels.begin(), second.pixels.end());
+        graphicControl(out, second.pixels.front());
+        frame(out, second);
+    }
     out.append(';');
     return out;
 }

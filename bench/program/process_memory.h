@@ -13,13 +13,20 @@ inline void forgetPeak() {
         qFatal("the peak of memory cannot be reset");
 }
 
-/// The peak of resident memory since then, in megabytes (VmHWM of proc(5)).
-inline double peakMegabytes() {
+/// A field of the process' status in megabytes, such as "VmHWM" (proc(5)).
+inline double statusMegabytes(const QByteArray& field) {
     QFile file(QStringLiteral("/proc/self/status"));
     if (!file.open(QIODevice::ReadOnly)) qFatal("no status of the process");
     for (const QByteArray& line : file.readAll().split('\n'))
-        if (line.startsWith("VmHWM:")) return line.mid(6).chopped(2).trimmed().toDouble() / 1024;
-    qFatal("no peak of memory");
+        if (line.startsWith(field + ':'))
+            return line.mid(field.size() + 1).chopped(2).trimmed().toDouble() / 1024;
+    qFatal("no such status of the process");
 }
+
+/// The peak of resident memory since then, in megabytes.
+inline double peakMegabytes() { return statusMegabytes("VmHWM"); }
+
+/// What is resident now, in megabytes.
+inline double residentMegabytes() { return statusMegabytes("VmRSS"); }
 
 } // namespace quarvel::bench

@@ -7,6 +7,7 @@ namespace quarvel {
 namespace {
 
 constexpr int mostTogether = 257; // rows whose sum 16 bits hold
+static_assert(mostTogether * 255 <= 0xFFFF);
 
 using Lanes = float __attribute__((vector_size(16)));
 constexpr std::size_t lanes = sizeof(Lanes) / sizeof(float);

@@ -11,7 +11,7 @@ InkRow::Ink InkRow::asInk(std::uint32_t colour) {
 }
 
 /// The colour whose channels are the whole parts of `light`, each 0 to 255.
-std::uint32_t InkRow::asColour(Ink light) {
+inline std::uint32_t InkRow::asColour(Ink light) {
     using Lanes = std::int32_t __attribute__((vector_size(16)));
     const Lanes lanes = __builtin_convertvector(light, Lanes);
     std::array<std::uint64_t, 2> pairs; // green above blue, nothing above red

@@ -34,6 +34,13 @@ inline std::vector<std::uint32_t> colours(unsigned count) {
     return made;
 }
 
+/// Shades of grey, in no order.
+inline std::vector<std::uint32_t> greys(unsigned count) {
+    std::vector<std::uint32_t> made = colours(count);
+    for (std::uint32_t& colour : made) colour = (colour & 0xFF) * 0x010101;
+    return made;
+}
+
 /// A frame as large as its screen.
 inline GifRecipe recipe(QSize size, unsigned colourCount, Packing packing) {
     return {size, QRect(QPoint(0, 0), size), drawing(size, colourCount, colourCount), colours(colourCount),

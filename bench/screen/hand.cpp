@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 namespace quarvel::bench {
 namespace {
 
-constexpr std::uint16_t smallest = 64; // pixels, of a window that somebody is meant to see
+constexpr std::uint16_t smallest = 240; // pixels across, of a window that is worked in
 
 struct Freed {
     void operator()(void* reply) const { std::free(reply); } // the library hands replies over
@@ -45,7 +45,7 @@ bool Hand::isShown(xcb_window_t window) const {
     const Answer<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
         connection_, xcb_get_window_attributes(connection_, window), nullptr));
     if (attributes == nullptr || attributes->map_state != XCB_MAP_STATE_VIEWABLE) return false;
-    return areaOf(window).width >= smallest; // toolkits keep tiny ones for their own purposes
+    return areaOf(window).width >= smallest; // others are tool tips, helpers and the like
 }
 
 xcb_window_t Hand::newWindow() {

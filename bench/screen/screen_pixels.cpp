@@ -4,6 +4,17 @@
 #include <cstring>
 
 namespace quarvel::bench {
+namespace {
+
+/// The colour of a pixel as the X server sends it; the byte above red is what a client happened to leave
+/// there.
+std::uint32_t colourAt(const std::uint8_t* sent) {
+    std::uint32_t colour = 0;
+    std::memcpy(&colour, sent, sizeof colour);
+    return colour & 0xFFFFFF;
+}
+
+} // namespace
 
 std::vector<Pixel> ScreenPixels::grid(int step) const {
     std::vector<Pixel> pixels;
@@ -22,7 +33,7 @@ std::vector<Pixel> ScreenPixels::again(const std::vector<Pixel>& pixels) const {
     std::vector<Pixel> seen = pixels;
     for (std::size_t i = 0; i < seen.size(); ++i)
         if (xcb_get_image_reply_t* reply = xcb_get_image_reply(connection_, asked[i], nullptr)) {
-            std::memcpy(&seen[i].colour, xcb_get_image_data(reply), sizeof seen[i].colour);
+            seen[i].colour = colourAt(xcb_get_image_data(reply));
             std::free(reply); // the library hands it over
         }
     return seen;
@@ -36,10 +47,8 @@ std::vector<Pixel> ScreenPixels::all(Area area) const {
     if (reply == nullptr) return pixels; // a part outside the screen
     const std::uint8_t* at = xcb_get_image_data(reply);
     for (int y = area.y; y < area.y + area.height; ++y)
-        for (int x = area.x; x < area.x + area.width; ++x, at += sizeof(std::uint32_t)) {
-            pixels.push_back({static_cast<std::int16_t>(x), static_cast<std::int16_t>(y), 0});
-            std::memcpy(&pixels.back().colour, at, sizeof pixels.back().colour);
-        }
+        for (int x = area.x; x < area.x + area.width; ++x, at += sizeof(std::uint32_t))
+            pixels.push_back({static_cast<std::int16_t>(x), static_cast<std::int16_t>(y), colourAt(at)});
     std::free(reply);
     return pixels;
 }

@@ -9,7 +9,7 @@ namespace quarvel::bench {
 struct Pixel {
     std::int16_t x; ///< of the screen, pixels
     std::int16_t y;
-    std::uint32_t colour; ///< as the screen keeps it
+    std::uint32_t colour; ///< 0xRRGGBB
 
     friend bool operator==(const Pixel&, const Pixel&) = default;
 };

@@ -53,6 +53,9 @@ std::vector<Pixel> Watch::settled(Area area) const {
 Sight Watch::learn(Area area, const std::function<void()>& action) const {
     const std::vector<Pixel> before = settled(area);
     action();
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (screen_.all(area) == before && std::chrono::steady_clock::now() < end)
+        std::this_thread::sleep_for(10ms);
     const std::vector<Pixel> after = settled(area);
     const std::vector<Pixel> later = settled(area);
     std::vector<Pixel> changed;
@@ -64,13 +67,27 @@ Sight Watch::learn(Area area, const std::function<void()>& action) const {
 }
 
 double Watch::timeTo(const std::function<void()>& action, const Sight& picture) const {
+    return timeUntil(
+        action, [&] { return stands(picture.few); }, [&] { return stands(picture.many); });
+}
+
+double Watch::timeFrom(const std::function<void()>& action, const Sight& picture) const {
+    const auto gone = [&] {
+        const std::vector<Pixel> now = screen_.again(picture.few);
+        std::size_t other = 0;
+        for (std::size_t i = 0; i < now.size(); ++i) other += now[i] == picture.few[i] ? 0 : 1;
+        return 2 * other > now.size();
+    };
+    return timeUntil(action, gone, [] { return true; });
+}
+
+double Watch::timeUntil(const std::function<void()>& action, const Look& look, const Look& confirm) const {
     const auto start = std::chrono::steady_clock::now();
     action();
     while (true) {
-        const bool there = stands(picture.few);
+        const bool seen = look();
         const auto now = std::chrono::steady_clock::now();
-        if (there && stands(picture.many))
-            return std::chrono::duration<double, std::milli>(now - start).count();
+        if (seen && confirm()) return std::chrono::duration<double, std::milli>(now - start).count();
         if (now - start > patience) fail("a picture does not look as it did before");
         std::this_thread::sleep_for(betweenLooks);
     }

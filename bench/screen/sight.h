@@ -26,11 +26,18 @@ public:
     /// From the action to the moment that the picture stands on the screen, in milliseconds; fails after ten
     /// seconds.
     [[nodiscard]] double timeTo(const std::function<void()>& action, const Sight& picture) const;
+    /// From the action to the moment that most of a picture's pixels are no longer what they were, whatever
+    /// they are: a coarse picture counts.
+    [[nodiscard]] double timeFrom(const std::function<void()>& action, const Sight& picture) const;
     /// Waits until an area has been quiet for 300 ms, but for a caret that blinks, and tells what stands
     /// there.
     [[nodiscard]] std::vector<Pixel> settled(Area area) const;
 
 private:
+    using Look = std::function<bool()>;
+    /// From the action to the first look that is confirmed, milliseconds.
+    [[nodiscard]] double timeUntil(const std::function<void()>& action, const Look& look,
+                                   const Look& confirm) const;
     [[nodiscard]] bool stands(const std::vector<Pixel>& pixels) const {
         return screen_.again(pixels) == pixels;
     }

@@ -1,3 +1,6 @@
+// The promise: the next chart of a folder stands on the screen in at most half of the time that nsxiv takes,
+// and a fifth of feh's, in windows that show as much of it.
+
 #include "chart_folder.h"
 #include "measuring.h"
 #include "viewers.h"
@@ -41,6 +44,11 @@ int main(int argc, char** argv) {
     ::setenv("QT_QPA_PLATFORM", "offscreen", 1); // NOLINT(concurrency-mt-unsafe): one thread only
     const QGuiApplication application(argc, argv);
     ::setenv("QT_QPA_PLATFORM", "xcb", 1); // NOLINT(concurrency-mt-unsafe)
+    for (const char* peer : {"nsxiv", "feh"})
+        if (!isInstalled(peer)) {
+            printMissing("The next chart, on the screen", peer);
+            return 0;
+        }
     benchCharts({1600, 2200});
     benchCharts({3000, 4200});
     return 0;

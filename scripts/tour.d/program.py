@@ -16,10 +16,19 @@ class Program:
         self.folder = Path(folder)
         shutil.copytree(data, self.folder)
         shutil.copy2(executable, self.folder / "quarvel")
+        self._copy_printing(Path(executable).parent)
         if language:
             settings = f"[Language]\r\nCurrentLanguage={language}\r\n"
             (self.folder / "LangSetting.ini").write_bytes(settings.encode())
         self.start()
+
+    def _copy_printing(self, place):
+        """Takes the printing library along, from beside the executable or from where it is installed for it."""
+        for folder in (place, place.parent / "lib" / "quarvel"):
+            library = folder / "quarvel-printing.so"
+            if library.exists():
+                shutil.copy2(library, self.folder)
+                return
 
     def start(self):
         """Starts it; for the second time, too, once it has ended."""

@@ -49,7 +49,7 @@ bool Hand::isShown(xcb_window_t window) const {
 }
 
 xcb_window_t Hand::newWindow() {
-    const auto patience = std::chrono::steady_clock::now() + 10s;
+    const auto patience = std::chrono::steady_clock::now() + 30s;
     while (std::chrono::steady_clock::now() < patience) {
         const std::set<xcb_window_t> now = windows();
         for (const xcb_window_t window : now)

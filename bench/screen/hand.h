@@ -19,7 +19,7 @@ public:
     Hand& operator=(const Hand&) = delete;
 
     /// Waits for a window on the screen that was not there when this was last asked, or at the beginning;
-    /// fails after ten seconds.
+    /// fails after half a minute.
     [[nodiscard]] xcb_window_t newWindow();
     /// Puts a window before all others at a place of the screen, and gives it the keys. It counts as placed
     /// once the X server has done so; the program learns it in its own time.

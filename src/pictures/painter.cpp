@@ -57,13 +57,8 @@ void paintGrey(const Picture& picture, Scratch& scratch, QImage& target) {
     row.arrange(scratch.across);
     const auto stride = static_cast<std::size_t>(picture.size().width());
     paintRows(scratch, target, [&](int y, std::uint32_t* line) {
-        const float* shares = down.shares(y);
-        for (int from = 0, to = 0; from < down.taps(); from = to) {
-            while (to < down.taps() && shares[to] == shares[from]) ++to;
-            if (shares[from] == 0.0f) continue;
-            row.add(picture.row(down.first(y) + from) + row.firstColumn(), stride, to - from, shares[from]);
-        }
-        row.pour(scratch.across, line);
+        row.add(picture.row(down.first(y)) + row.firstColumn(), stride, down.shares(y), down.taps());
+        row.pour(line + scratch.across.begin());
     });
 }
 

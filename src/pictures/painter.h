@@ -12,8 +12,8 @@ namespace quarvel {
 /// both axes on their own) into `target`, of which only the part that shows is ever touched: `part` is the
 /// rectangle, in target pixels from the stretched picture's top left corner, that fills `target` (whose size
 /// is part.size() and whose format is Format_RGB32). Outside the picture, white. Natural size copies; larger
-/// blends neighbours (bilinear); smaller averages over the exact area that each target pixel covers, so that
-/// thin lines stay whole and small print legible.
+/// blends neighbours (bilinear); smaller averages over the area that each target pixel covers, exactly in
+/// colours and to within about a shade in greys, so that thin lines stay whole and small print legible.
 void paintPicture(const Picture& picture, QSizeF stretched, QRect part, QImage& target);
 
 } // namespace quarvel

@@ -54,22 +54,25 @@ private Q_SLOTS:
     void filtersExactly_data() {
         QTest::addColumn<QSize>("size");
         QTest::addColumn<QSizeF>("stretched");
-        QTest::newRow("smaller") << QSize(260, 170) << QSizeF(86.7, 51.3);
-        QTest::newRow("hardly smaller") << QSize(60, 50) << QSizeF(59.6, 49.9);
-        QTest::newRow("a few pixels left") << QSize(90, 1200) << QSizeF(7.3, 2.2);
-        QTest::newRow("larger") << QSize(40, 30) << QSizeF(122, 69.7);
-        QTest::newRow("wider and lower") << QSize(50, 90) << QSizeF(131.2, 33.3);
-        QTest::newRow("only lower") << QSize(50, 40) << QSizeF(50, 13.37);
-        QTest::newRow("a single pixel") << QSize(1, 1) << QSizeF(5, 0.7);
+        QTest::addColumn<double>(
+            "greyError"); // greys have coarse shares, the coarser the smaller the picture
+        QTest::newRow("smaller") << QSize(260, 170) << QSizeF(86.7, 51.3) << 1.1;
+        QTest::newRow("hardly smaller") << QSize(60, 50) << QSizeF(59.6, 49.9) << 1.1;
+        QTest::newRow("a few pixels left") << QSize(90, 1200) << QSizeF(7.3, 2.2) << 3.0;
+        QTest::newRow("larger") << QSize(40, 30) << QSizeF(122, 69.7) << 0.51;
+        QTest::newRow("wider and lower") << QSize(50, 90) << QSizeF(131.2, 33.3) << 1.1;
+        QTest::newRow("only lower") << QSize(50, 40) << QSizeF(50, 13.37) << 1.1;
+        QTest::newRow("a single pixel") << QSize(1, 1) << QSizeF(5, 0.7) << 0.51;
     }
 
     void filtersExactly() {
         QFETCH(QSize, size);
         QFETCH(QSizeF, stretched);
+        QFETCH(double, greyError);
         GifRecipe made = recipe(size, 256, Packing::Clearing);
-        filtersExactly(decoded(made), stretched);
+        filtersWithin(0.51, decoded(made), stretched); // rounded once, at the end
         made.colours = greys(256);
-        filtersExactly(decoded(made), stretched);
+        filtersWithin(greyError, decoded(made), stretched);
     }
 
     void paintsPartsAsCropsOfTheWhole() {
@@ -82,7 +85,7 @@ private Q_SLOTS:
     }
 
 private:
-    static void filtersExactly(const Picture& picture, QSizeF stretched) {
+    static void filtersWithin(double error, const Picture& picture, QSizeF stretched) {
         const QSize shownSize(qRound(stretched.width()), qRound(stretched.height()));
         QImage image(shownSize + QSize(1, 1), QImage::Format_RGB32);
         paintPicture(picture, stretched, image.rect(), image);
@@ -90,7 +93,7 @@ private:
         for (int y = 0; y < shownSize.height(); ++y)
             for (int x = 0; x < shownSize.width(); ++x)
                 worst = std::max(worst, errorAt(picture, stretched, x, y, image.pixel(x, y)));
-        QVERIFY2(worst < 0.51, qPrintable(QString::number(worst))); // rounded once, at the end
+        QVERIFY2(worst < error, qPrintable(QString::number(worst)));
         QCOMPARE(image.pixel(shownSize.width(), 0), qRgb(255, 255, 255));
         QCOMPARE(image.pixel(0, shownSize.height()), qRgb(255, 255, 255));
     }

@@ -24,15 +24,14 @@ constexpr std::size_t lanes = sizeof(Lanes) / sizeof(std::int32_t);
 
 /// Shares as whole parts of `whole`, rounded where they end, so that they add up to it again.
 void weigh(const float* shares, int taps, int whole, std::int16_t* weights) {
-    float share = 0;
+    float due = 0.5f;
     int given = 0;
     for (int k = 0; k < taps; ++k) {
-        share += shares[k];
-        const int due = std::min(whole, static_cast<int>(share * static_cast<float>(whole) + 0.5f));
-        weights[k] = static_cast<std::int16_t>(due - given);
-        given = due;
+        due += shares[k] * static_cast<float>(whole);
+        const int upToHere = k + 1 < taps ? std::min(whole, static_cast<int>(due)) : whole;
+        weights[k] = static_cast<std::int16_t>(upToHere - given);
+        given = upToHere;
     }
-    weights[taps - 1] = static_cast<std::int16_t>(weights[taps - 1] + whole - given);
 }
 
 /// Products of eight pairs, added up two by two.

@@ -15,6 +15,7 @@ using namespace Qt::StringLiterals;
 
 int main(int argc, char** argv) {
     quarvel::chooseWindowSystem();
+    quarvel::settleEnvironment();
     quarvel::Beside fontList(quarvel::readFontList);
     QApplication application(argc, argv);
     fontList.finish();

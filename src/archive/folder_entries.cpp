@@ -6,6 +6,7 @@
 #include <QtEndian>
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstring>
 #include <linux/magic.h>
 #include <memory>
@@ -74,7 +75,7 @@ void sortByKey(KeyedEntry* begin, KeyedEntry* end) {
 qint64 nanoseconds(const timespec& time) { return qint64{time.tv_sec} * 1'000'000'000 + time.tv_nsec; }
 
 FolderStamp stampOf(const struct stat& info) {
-    return {info.st_dev, info.st_ino, nanoseconds(info.st_mtim), nanoseconds(info.st_ctim)};
+    return {info.st_dev, info.st_ino, info.st_mtim.tv_sec, info.st_mtim.tv_nsec, nanoseconds(info.st_ctim)};
 }
 
 /// Whether a folder lies on a file system of this machine that records the time of each change by itself. On
@@ -129,6 +130,7 @@ FolderEntries::FolderEntries(QByteArray folder) : folder_(std::move(folder)) {
 }
 
 void FolderEntries::read(DIR* dir) {
+    errno = 0;
     while (const dirent* found = ::readdir(dir)) { // NOLINT(concurrency-mt-unsafe): a stream of its own
         if (found->d_name[0] == '.') continue;
         const EntryKind kind = kindInFolder(*found);
@@ -141,6 +143,7 @@ void FolderEntries::read(DIR* dir) {
                             static_cast<quint16>(name.size()), kind});
         names_.append(name);
     }
+    if (errno != 0) tellsChanges_ = false; // half read: it is not to be kept
 }
 
 void FolderEntries::sort() {
@@ -199,7 +202,7 @@ std::pair<std::size_t, std::size_t> FolderEntries::beginningWith(std::string_vie
 }
 
 bool FolderEntries::areCurrent(const QByteArray& folder, std::chrono::nanoseconds settled) const {
-    const qint64 age = readAt_ - std::max(stamp_.modified, stamp_.changed);
+    const qint64 age = readAt_ - stamp_.changed;
     if (!tellsChanges_ || folder != folder_ || age < settled.count()) return false;
     struct stat info {};
     return ::stat(folder.constData(), &info) == 0 && stampOf(info) == stamp_;

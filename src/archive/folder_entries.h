@@ -33,8 +33,9 @@ enum class EntryKind : quint8 {
 struct FolderStamp {
     quint64 device = 0;
     quint64 inode = 0;
-    qint64 modified = 0; ///< nanoseconds since 1970
-    qint64 changed = 0;  ///< likewise
+    qint64 modifiedSecond = 0; ///< since 1970; any tool may have set it, to any time
+    qint64 modifiedNanosecond = 0;
+    qint64 changed = 0; ///< nanoseconds since 1970
 
     bool operator==(const FolderStamp&) const = default;
 };

@@ -1,5 +1,7 @@
 #include "platform/beside.h"
 
+#include <QByteArray>
+#include <QtGlobal>
 #include <dlfcn.h>
 #include <system_error>
 #include <utility>
@@ -16,6 +18,14 @@ Beside::Beside(std::function<void()> work) {
 
 void Beside::finish() {
     if (thread_.joinable()) thread_.join();
+}
+
+void settleEnvironment() {
+    const char* const name = "DESKTOP_STARTUP_ID";
+    if (!qEnvironmentVariableIsSet(name)) return;
+    const QByteArray id = qgetenv(name);
+    qunsetenv(name);
+    qputenv(name, id);
 }
 
 void readFontList() {

@@ -21,6 +21,10 @@ private:
     std::thread thread_;
 };
 
+/// Readies the environment for threads that read it while the toolkit starts. The toolkit takes the start's
+/// own id out of it: from the last place, to which this moves it, that shifts nothing that others look for.
+void settleEnvironment();
+
 /// Reads the system's list of fonts: the font library's own initialisation, which needs no application. It
 /// takes as long as connecting to the screen does.
 void readFontList();

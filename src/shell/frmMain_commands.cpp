@@ -13,7 +13,7 @@ void frmMain::cmdEsci_Click() {
         services_.process.endNow();
 }
 
-void frmMain::cmdInfo_Click() { c->fraMail.setShown(Shown::Yes); }
+void frmMain::cmdInfo_Click() { c->showInformation(); }
 
 void frmMain::cmdEsciMail_Click() {
     // The focus would go on to the first entry field: it goes back to where it came from.

@@ -56,8 +56,8 @@ void setTabOrder(frmMainControls& all) {
           static_cast<WidgetControl*>(&all.cmdSave), static_cast<WidgetControl*>(&all.cmdReset),
           static_cast<WidgetControl*>(&all.cmdGrafica), static_cast<WidgetControl*>(&all.cmdStampa),
           static_cast<WidgetControl*>(&all.cmdAzzera), static_cast<WidgetControl*>(&all.cmdInfo),
-          static_cast<WidgetControl*>(&all.cmdEsci), static_cast<WidgetControl*>(&all.Label15),
-          static_cast<WidgetControl*>(&all.cmdEsciMail), static_cast<WidgetControl*>(&all.TxtFile)})
+          static_cast<WidgetControl*>(&all.cmdEsci), static_cast<WidgetControl*>(&all.cmdEsciMail),
+          static_cast<WidgetControl*>(&all.TxtFile)})
         order.push_back(&control->widget());
     for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
 }
@@ -72,6 +72,13 @@ frmMainControls::frmMainControls(Container& window) : form(window) {
     ImgLingua.forEach([](int /*index*/, Image& flag) { flag.makeCommand(); });
     setEntryCursor(*this);
     setTabOrder(*this);
+}
+
+void frmMainControls::showInformation() {
+    fraMail.setShown(Shown::Yes);
+    // A link takes the focus from when it is first seen, and has no place among the others before.
+    QWidget::setTabOrder(&cmdEsci.widget(), &Label15.widget());
+    QWidget::setTabOrder(&Label15.widget(), &cmdEsciMail.widget());
 }
 
 frmMainControls::NavigationAids::NavigationAids(frmMainControls& all) {

@@ -19,6 +19,8 @@ namespace quarvel {
 struct frmMainControls {
     explicit frmMainControls(Container& window);
 
+    void showInformation();
+
     Container& form;
     ControlArray<TextBox> txtRwy; ///< the 39 entry fields; the index is the value's position in the record
     ControlArray<Label> Label6;

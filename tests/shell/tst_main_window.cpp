@@ -162,10 +162,15 @@ private Q_SLOTS:
         QVERIFY(met.size() > 10);
     }
 
-    void closingTheInformationLeavesTheFocusWhereItCameFrom() {
+    void theInformationIsWalkedThroughAndLeavesTheFocusWhereItCameFrom() {
         TestProgram test;
         test.startWith(u"LIRF"_s);
         TestProgram::click(test.mainWindow(), u"cmdInfo"_s);
+        TestProgram::control(test.mainWindow(), u"cmdEsci"_s)->setFocus();
+        for (const QString& next : {u"Label15"_s, u"cmdEsciMail"_s}) {
+            QTest::keyClick(test.mainWindow(), Qt::Key_Tab);
+            QVERIFY2(TestProgram::control(test.mainWindow(), next)->hasFocus(), qPrintable(next));
+        }
         TestProgram::click(test.mainWindow(), u"cmdEsciMail"_s);
         QVERIFY(TestProgram::control(test.mainWindow(), u"cmdInfo"_s)->hasFocus());
     }

@@ -112,8 +112,7 @@ int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     qputenv("QT_QPA_PLATFORM", "xcb");
     const ScratchProgram program(QUARVEL_PROGRAM);
-    // In English nobody presents the airport, whose appearance would be one more window.
-    std::ofstream(program.of("LangSetting.ini")) << "[Language]\r\nCurrentLanguage=English\r\n";
+    program.speakEnglish();
     const QByteArray chart = drawnChart({3000, 4200}, 16);
     std::filesystem::remove_all(program.of("aeroporti/LIPE/Sid"));
     std::filesystem::create_directory(program.of("aeroporti/LIPE/Sid"));

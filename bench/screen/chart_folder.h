@@ -16,6 +16,7 @@ public:
     /// Charts of a size in pixels, each drawn otherwise, in as many shades from white to black. Needs a
     /// QGuiApplication.
     ChartFolder(QSize size, int shades) : program_(QUARVEL_PROGRAM) {
+        program_.speakEnglish();
         const std::filesystem::path departures = program_.of("aeroporti/LIPE/Sid");
         std::filesystem::remove_all(departures);
         std::filesystem::create_directory(departures);

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 namespace quarvel::bench {
@@ -22,6 +23,12 @@ public:
     ~ScratchProgram() { std::filesystem::remove_all(folder_); }
     ScratchProgram(const ScratchProgram&) = delete;
     ScratchProgram& operator=(const ScratchProgram&) = delete;
+
+    /// Nobody presents an airport in English: the character would be one more window, and its voice and moves
+    /// would be measured with everything that happens meanwhile.
+    void speakEnglish() const {
+        std::ofstream(of("LangSetting.ini")) << "[Language]\r\nCurrentLanguage=English\r\n";
+    }
 
     [[nodiscard]] std::string path() const { return folder_ / program_; }
     [[nodiscard]] std::filesystem::path of(const char* relative) const { return folder_ / relative; }

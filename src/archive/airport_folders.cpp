@@ -1,13 +1,13 @@
 #include "archive/airport_folders.h"
 
 #include "archive/name_rules.h"
+#include "files/staging_folder.h"
+#include "files/whole_copy.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <cerrno>
 #include <sys/stat.h>
-#include <unistd.h>
-#include <vector>
 
 namespace quarvel {
 
@@ -25,28 +25,11 @@ Failure makeFailure(const QString& path, int error) {
     }
 }
 
-/// Folders that are taken back in reverse order unless they are kept.
-class FreshFolders {
-public:
-    FreshFolders() = default;
-    FreshFolders(const FreshFolders&) = delete;
-    FreshFolders& operator=(const FreshFolders&) = delete;
-    ~FreshFolders() {
-        for (; !made_.empty(); made_.pop_back()) ::rmdir(made_.back().constData());
-    }
-
-    /// Makes a folder; 0, or the system's error number.
-    int make(const QString& path) {
-        QByteArray encoded = QFile::encodeName(path);
-        if (::mkdir(encoded.constData(), 0777) != 0) return errno; // the user's mask takes its part away
-        made_.push_back(std::move(encoded));
-        return 0;
-    }
-    void keep() { made_.clear(); }
-
-private:
-    std::vector<QByteArray> made_;
-};
+/// 0, or the system's error number.
+int makeFolder(const QString& path) {
+    // The user's mask takes its part away.
+    return ::mkdir(QFile::encodeName(path).constData(), 0777) == 0 ? 0 : errno;
+}
 
 bool anyEntry(const QString& path) {
     struct stat info {};
@@ -62,13 +45,16 @@ Result<void> createAirportFolders(const ArchivePaths& paths, const QString& name
     const QString airport = paths.airportFolder(name);
     if (anyEntry(airport)) return {};
 
-    FreshFolders fresh;
-    const QString folders[] = {airport, airport + u"/Sid"_s, airport + u"/Star"_s, airport + u"/Approach"_s,
-                               airport + u"/Aeroporto"_s};
-    for (const QString& folder : folders)
-        if (const int error = fresh.make(folder); error != 0) return makeFailure(folder, error);
-    fresh.keep();
-    return {};
+    // Made aside and moved to their place in one step: an airport without all of its folders could not be
+    // saved.
+    StagingFolder::clearLeftOvers(archive);
+    const auto staging = StagingFolder::make(archive);
+    if (!staging) return Failure{staging.failure().fault, airport, {}};
+    const QString staged = staging.value()->path() + u'/' + name;
+    for (const auto& part : {u""_s, u"/Sid"_s, u"/Star"_s, u"/Approach"_s, u"/Aeroporto"_s})
+        if (const int error = makeFolder(staged + part); error != 0)
+            return makeFailure(airport + part, error);
+    return moveToFreeName(staged, airport);
 }
 
 } // namespace quarvel

@@ -1,5 +1,6 @@
 #include "archive/program_folder.h"
 #include "archive/starter.h"
+#include "files/whole_file.h"
 #include "forms/look.h"
 #include "platform/beside.h"
 #include "platform/desktop_notification_area.h"
@@ -14,6 +15,7 @@
 using namespace Qt::StringLiterals;
 
 int main(int argc, char** argv) {
+    quarvel::outliveSizeLimits();
     quarvel::chooseWindowSystem();
     quarvel::settleEnvironment();
     quarvel::Beside fontList(quarvel::readFontList);

@@ -9,9 +9,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Bytes of the longest new name. A file system takes names of 255: the data file adds ".txt", and its
-/// temporary neighbour while it is being saved a dot and six letters more.
-constexpr qsizetype longestNewName = 255 - 4 - 7;
+/// Bytes of the longest new name. A file system takes names of 255, and the data file adds ".txt".
+constexpr qsizetype longestNewName = 255 - 4;
 
 bool leavesFolder(QChar character) {
     return character == u'/' || character == u'\\' || character.category() == QChar::Other_Control;

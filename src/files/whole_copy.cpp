@@ -38,7 +38,7 @@ int moveStepByStep(const QByteArray& from, const QByteArray& to) {
 Result<void> copyWholeFile(const QString& from, const QString& to) {
     const Result<QByteArray> bytes = readWholeFile(from, largestCopiedFile);
     if (!bytes) return bytes.failure();
-    return writeWholeFile(to, bytes.value());
+    return writeNewFile(to, bytes.value());
 }
 
 Result<void> copyWholeFolder(const QString& from, const QString& to) {

@@ -6,13 +6,13 @@
 
 namespace quarvel {
 
-/// Copies a regular file (links followed) to `to`, down to the disk. The copy has the user's usual mode,
-/// whatever the original's. Fails with the faults of readWholeFile and writeWholeFile.
+/// Copies a regular file (links followed) to `to`, where nothing is yet, down to the disk. The copy has the
+/// user's usual mode, whatever the original's. Fails with the faults of readWholeFile and writeNewFile. What
+/// was copied before a failure stays: copy to a temporary place.
 [[nodiscard]] Result<void> copyWholeFile(const QString& from, const QString& to);
 
 /// Copies a folder with everything in it to `to`, down to the disk. Fails like copyWholeFile, and with
 /// Unwritable when there is a `to` already; a link to a folder is not followed but fails with NotRegular.
-/// What was copied before a failure stays: copy to a temporary place.
 [[nodiscard]] Result<void> copyWholeFolder(const QString& from, const QString& to);
 
 /// Moves a file or folder within its file system, in one step. When anything at all has the name `to`, that

@@ -13,21 +13,31 @@ namespace quarvel {
 /// `limitBytes`.
 [[nodiscard]] Result<QByteArray> readWholeFile(const QString& path, qint64 limitBytes);
 
-/// Replaces or creates a file in one step: the bytes go to a temporary neighbour, are flushed to the disk and
-/// take the file's name. On failure (Unwritable, DiskFull, NotRegular) the file is its old self. The folder
-/// must exist.
-[[nodiscard]] Result<void> writeWholeFile(const QString& path, const QByteArray& bytes);
-
 /// A file to be written.
 struct FileContent {
     QString path;
     QByteArray bytes;
 };
 
-/// Writes several files that belong together: all of them are prepared, down to the disk, before the first
-/// takes its name, so that a full disk or a refused folder changes none of them. Each is its old or its new
-/// self.
+/// Replaces or creates files that belong together. All of them are made in a hidden folder beside their
+/// places, down to the disk, before the first takes its name, so that a full disk or a refused folder changes
+/// none of them; when one cannot take its name, those before it are put back as far as the file system keeps
+/// second names. Each is its old or its new self at any moment, and of two programs that write the same files
+/// at once, all those of the later one stay. New files have the user's usual mode, others keep theirs; a link
+/// stays and what it leads to is written. The folders must exist. Fails with Unwritable, DiskFull, or
+/// NotRegular (also of a link to nothing).
 [[nodiscard]] Result<void> writeWholeFiles(const std::vector<FileContent>& files);
+
+/// The same for a single file.
+[[nodiscard]] Result<void> writeWholeFile(const QString& path, const QByteArray& bytes);
+
+/// Writes a file that is not there yet, down to the disk, though not in one step: for a temporary place.
+/// Fails with Unwritable or DiskFull.
+[[nodiscard]] Result<void> writeNewFile(const QString& path, const QByteArray& bytes);
+
+/// Makes a write beyond the process's file-size limit fail as one on a full disk does, where the system would
+/// end the process. For the beginning of a program.
+void outliveSizeLimits();
 
 /// Why `path` could not be written or made, from the system's error number: DiskFull or Unwritable.
 [[nodiscard]] Failure writeFailure(const QString& path, int error);

@@ -95,9 +95,9 @@ private Q_SLOTS:
                 .arg(checkAirportName(name, NameUse::New).ok())
                 .arg(staysInFolder(name));
         };
-        for (const QString& plain : {u"FORL\u00CC 2"_s, u"A.B"_s, u" A"_s, QString(244, u'A')})
+        for (const QString& plain : {u"FORL\u00CC 2"_s, u"A.B"_s, u" A"_s, QString(251, u'A')})
             QCOMPARE(judged(plain), u"111"_s);
-        for (const QString& onlyOpened : {u"LIRF."_s, u"LIRF "_s, QString(245, u'A'), QString(123, u'È')})
+        for (const QString& onlyOpened : {u"LIRF."_s, u"LIRF "_s, QString(252, u'A'), QString(126, u'È')})
             QCOMPARE(judged(onlyOpened), u"101"_s);
         for (const QString& refused : {u""_s, u"."_s, u".."_s, u"A*"_s, u"A?"_s, u"A\""_s, u"<A"_s, u"C:"_s})
             QCOMPARE(judged(refused), u"001"_s);
@@ -106,7 +106,7 @@ private Q_SLOTS:
     }
 
     void newAirportGetsItsFolders() {
-        const QString name(244, u'A'); // the longest name must still be savable
+        const QString name(251, u'A'); // the longest name must still be savable
         QVERIFY(createAirportFolders(*paths_, name).ok());
         QCOMPARE(QDir(at(u"Aeroporti/"_s + name)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
                  (QStringList{u"Aeroporto"_s, u"Approach"_s, u"Sid"_s, u"Star"_s}));

@@ -1,17 +1,17 @@
-#include "archive/saving.h"
-#include "saving/two_records.h"
+#include "saving/savings.h"
 
-#include <QCoreApplication>
-#include <QFile>
 #include <cstdio>
+#include <cstdlib>
 
-/// Saves the airport KILL in the program folder given, with one record and another in turn, until it is
-/// killed.
+/// Saves versions of the same thing in turns, until it is killed.
+/// Arguments: program folder, what (0 to 2, in the order of Saving), versions.
 int main(int argc, char** argv) {
-    if (argc != 2) return 2;
-    const quarvel::ArchivePaths paths(QFile::decodeName(argv[1]));
+    if (argc < 4) return 2;
+    const QString folder = QFile::decodeName(argv[1]);
+    const auto what = static_cast<quarvel::Saving>(std::atoi(argv[2]));
     std::puts("saving");
     std::fflush(stdout);
-    for (int which = 0;; which = 1 - which)
-        if (!quarvel::saveAirport(paths, QStringLiteral("KILL"), quarvel::recordOf(which))) return 1;
+    while (true)
+        for (int argument = 3; argument < argc; ++argument)
+            if (!quarvel::save(what, folder, std::atoi(argv[argument]))) return 1;
 }

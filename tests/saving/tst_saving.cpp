@@ -1,14 +1,15 @@
 #include "archive/entry_rules.h"
-#include "archive/opening.h"
-#include "archive/record_file.h"
-#include "archive/saving.h"
-#include "saving/two_records.h"
+#include "files/folder_locks.h"
+#include "saving/savings.h"
 #include "support/disk.h"
+#include "support/test_program.h"
 
-#include <QDir>
 #include <QElapsedTimer>
+#include <QHash>
+#include <QPlainTextEdit>
 #include <QProcess>
 #include <QRandomGenerator>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 #include <algorithm>
@@ -65,54 +66,95 @@ private Q_SLOTS:
         QCOMPARE(QDir(archive + u"ROMA/Aeroporto"_s).entryList(QDir::Files), QStringList(u"ROMA.txt"_s));
     }
 
-    void aFullDiskChangesNeitherFile() {
-        const QTemporaryDir folder;
-        const QString airport = folder.path() + u"/aeroporti/KILL/"_s;
-        QDir().mkpath(airport + u"Aeroporto"_s);
-        put(airport + u"Aeroporto/KILL.txt"_s, "old");
-        put(airport + u"KILL_Agent.txt"_s, "spoken");
-        Result<void> saved;
-        {
-            const FileSizeLimit limit(1000);
-            saved = saveAirport(ArchivePaths(folder.path()), u"KILL"_s, recordOf(1));
+    void fiveHundredKillsLeaveWholeFilesAndAProgramThatStarts() {
+        TestProgram test;
+        const QString folder = test.path({});
+        layOutForSaving(folder);
+        test.addChart(u"aeroporti/KILL/Aeroporto/KILL.gif"_s, {20, 30});
+        test.addChart(u"aeroporti/KILL/Sid/KENN.gif"_s, {20, 30});
+        QHash<QString, QSet<QByteArray>> whole; // the old and the new self of every file
+        QElapsedTimer saving;
+        saving.start();
+        for (int version = 1; version >= 0; --version) {
+            for (const Saving what : allSavings) QVERIFY(save(what, folder, version));
+            const auto files = filesBelow(folder);
+            for (auto file = files.begin(); file != files.end(); ++file) whole[file.key()] += file.value();
         }
-        QVERIFY(!saved);
-        QVERIFY(saved.failure().fault == Fault::DiskFull);
-        QCOMPARE(bytesOf(airport + u"Aeroporto/KILL.txt"_s), QByteArray("old"));
-        QCOMPARE(bytesOf(airport + u"KILL_Agent.txt"_s), QByteArray("spoken"));
-        QCOMPARE(QDir(airport + u"Aeroporto"_s).entryList(QDir::Files).size(), 1);
+        // The kills fall into the first few saves, however slow the disk.
+        const auto span = static_cast<int>(std::clamp<qint64>(saving.elapsed(), 8, 100));
+        QRandomGenerator random(1); // any seed will do; this one makes a failure come back
+        QHash<QString, QSet<QByteArray>> left;
+        for (int kill = 0; kill < 500; ++kill) {
+            killWhileSaving(allSavings.at(kill % 3), folder, static_cast<int>(random.bounded(span)));
+            const auto files = filesBelow(folder);
+            QCOMPARE(files.size(), whole.size());
+            for (auto file = files.begin(); file != files.end(); ++file) {
+                QVERIFY2(whole[file.key()].contains(file.value()), qPrintable(file.key()));
+                left[file.key()] += file.value();
+            }
+            if (kill % 50 == 49) startsAndShows(test);
+        }
+        QVERIFY2(left == whole, "the kills came too early to say anything");
+        for (const Saving what : allSavings) QVERIFY(save(what, folder, 0));
+        QCOMPARE(filesBelow(folder, QDir::Hidden),
+                 filesBelow(folder)); // nothing is left of all the killed saves
     }
 
-    void twoHundredKillsLeaveWholeRecords() {
+    void ofTwoCopiesAtOnceTheLastSaveWinsWhole() {
         const QTemporaryDir folder;
-        QDir(folder.path()).mkdir(u"aeroporti"_s);
-        const ArchivePaths paths(folder.path());
-        QElapsedTimer first;
-        first.start();
-        QVERIFY(saveAirport(paths, u"KILL"_s, recordOf(0)));
-        // The kills fall into the first few saves, however slow the disk.
-        const auto span = static_cast<int>(std::clamp<qint64>(4 * first.elapsed(), 8, 100));
-        QRandomGenerator random(1); // any seed will do; this one makes a failure come back
-        int found[2] = {0, 0};
-        for (int kill = 0; kill < 200; ++kill) {
-            QProcess saving;
-            saving.start(QStringLiteral(SAVING_PROGRAM), {folder.path()});
-            QVERIFY(saving.waitForReadyRead());
-            // From here on it is somewhere in a save; where, is left to chance.
-            saving.waitForFinished(static_cast<int>(random.bounded(span)));
-            saving.kill();
-            QVERIFY(saving.waitForFinished());
-            QVERIFY(hasDataFile(paths, u"KILL"_s));
-            const Result<AirportRecord> record = readRecord(paths.dataFile(u"KILL"_s));
-            QVERIFY2(record, qPrintable(u"kill %1"_s.arg(kill)));
-            const int which = record.value() == recordOf(0) ? 0 : 1;
-            QVERIFY2(record.value() == recordOf(which), qPrintable(u"kill %1"_s.arg(kill)));
-            ++found[which];
-            QCOMPARE(bytesOf(paths.presenterText(u"KILL"_s, u"KILL"_s)), QByteArray());
+        layOutForSaving(folder.path());
+        const QString notes = folder.path() + u"/aeroporti/KILL/Sid"_s;
+        QVERIFY(save(Saving::Notes, folder.path(), 0));
+        QProcess copies[2];
+        for (int copy = 0; copy < 2; ++copy)
+            startSaving(copies[copy], Saving::Notes, folder.path(), {copy, copy + 2, copy + 4});
+        QSet<QByteArray> seen;
+        for (int look = 0; look < 300; ++look) {
+            QTest::qWait(1);
+            const FolderLocks nobodySaves({notes});
+            QVERIFY(nobodySaves.held());
+            const auto files = filesBelow(notes);
+            QCOMPARE(files.size(), 3);
+            for (const QByteArray& note : files) QCOMPARE(note, files.first());
+            seen += files.first();
         }
-        QVERIFY2(found[0] > 0 && found[1] > 0, "the kills came too early to say anything");
+        for (QProcess& copy : copies) QCOMPARE(copy.state(), QProcess::Running);
+        for (QProcess& copy : copies) end(copy);
+        QVERIFY(seen.size() > 2);
+    }
+
+private:
+    static void startSaving(QProcess& process, Saving what, const QString& folder,
+                            const QList<int>& versions) {
+        QStringList arguments = {folder, QString::number(static_cast<int>(what))};
+        for (const int version : versions) arguments.append(QString::number(version));
+        process.start(QStringLiteral(SAVING_PROGRAM), arguments);
+        QVERIFY(process.waitForReadyRead());
+    }
+
+    static void end(QProcess& process) {
+        process.kill();
+        QVERIFY(process.waitForFinished());
+    }
+
+    static void killWhileSaving(Saving what, const QString& folder, int afterMilliseconds) {
+        QProcess process;
+        startSaving(process, what, folder, {0, 1});
+        process.waitForFinished(afterMilliseconds);
+        end(process);
+    }
+
+    static void startsAndShows(TestProgram& test) {
+        test.start();
+        test.openViewer(u"KILL"_s);
+        TestProgram::click(test.viewWindow(), u"Option1(0)"_s);
+        QCOMPARE(TestProgram::rows(test.viewWindow(), u"List1"_s), QStringList(u"KENN"_s));
+        TestProgram::clickRow(test.viewWindow(), u"List1"_s, 0);
+        const auto* note = TestProgram::control<QPlainTextEdit>(test.viewWindow(), u"Text1"_s);
+        QVERIFY(!note->toPlainText().isEmpty());
+        QVERIFY(test.boxes.shown.isEmpty());
     }
 };
 
-QTEST_GUILESS_MAIN(SavingTest)
+QTEST_MAIN(SavingTest)
 #include "tst_saving.moc"

@@ -1,10 +1,11 @@
 #pragma once
 
+#include "files/whole_file.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QString>
 #include <QTest>
-#include <csignal>
 #include <sys/resource.h>
 
 namespace quarvel {
@@ -22,20 +23,17 @@ inline QByteArray bytesOf(const QString& path) {
 /// While it lives, files cannot grow beyond a size: a write fails in its middle, as on a full disk.
 class FileSizeLimit {
 public:
-    explicit FileSizeLimit(rlim_t bytes) : oldHandler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    explicit FileSizeLimit(rlim_t bytes) {
+        outliveSizeLimits();
         ::getrlimit(RLIMIT_FSIZE, &old_);
         const rlimit limit{bytes, old_.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &limit);
     }
-    ~FileSizeLimit() {
-        ::setrlimit(RLIMIT_FSIZE, &old_);
-        std::signal(SIGXFSZ, oldHandler_);
-    }
+    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &old_); }
     Q_DISABLE_COPY(FileSizeLimit)
 
 private:
     rlimit old_{};
-    void (*oldHandler_)(int);
 };
 
 } // namespace quarvel

@@ -23,17 +23,20 @@ quietly() {
     return "$status"
 }
 
-# configure: makes build/release ready to be built in. Ninja looks after later changes of the CMake files itself, but
-# not of the presets, nor of a clone that was moved or copied together with its build folder.
+# configure [PRESET]: makes build/PRESET, that is build/release, ready to be built in. Ninja looks after later changes of the
+# CMake files itself, but not of the presets, nor of a clone that was moved or copied together with its build folder.
 configure() {
-    local cache=build/release/CMakeCache.txt
-    if [[ -f build/release/build.ninja && ! CMakePresets.json -nt build/release/build.ninja ]] &&
-        grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$cache"; then
+    local preset=${1-release}
+    local cache=build/$preset/CMakeCache.txt ninja=build/$preset/build.ninja
+    if [[ -f $ninja && ! CMakePresets.json -nt $ninja ]] && grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$cache"; then
         return
     fi
-    quietly cmake --preset release --fresh || fail "the build could not be configured"
-    touch build/release/build.ninja
+    quietly cmake --preset "$preset" --fresh || fail "the build could not be configured"
+    touch "$ninja"
 }
 
 # build TARGET...: compiles in build/release and shows the compiler's words only when it fails.
-build() { quietly cmake --build build/release --target "$@" || fail "the build failed"; }
+build() { build_in release "$@"; }
+
+# build_in PRESET TARGET...: the same in build/PRESET.
+build_in() { quietly cmake --build "build/$1" --target "${@:2}" || fail "the build failed"; }

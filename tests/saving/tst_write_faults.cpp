@@ -53,7 +53,7 @@ class WriteFaultsTest : public QObject {
 private Q_SLOTS:
     void aLimitOfFileSizesStopsEveryWriteAnywhere() {
         for (const Saving what : allSavings)
-            for (const rlim_t limit : {0, 1, 10, 300, 1000, 3290, 3303, 5000, 60'000, 200'000}) {
+            for (const rlim_t limit : {0U, 1U, 10U, 300U, 1000U, 1803U, 5000U, 60'000U, 200'000U}) {
                 const QTemporaryDir folder;
                 QVERIFY(prepare(folder.path()));
                 const QString wrong = saveUnder(what, folder.path(), [&] {

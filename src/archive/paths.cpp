@@ -59,7 +59,8 @@ QString ArchivePaths::presenterTextForWriting(const QString& name, const QString
 }
 
 QString ArchivePaths::familyFolder(const QString& name, const QString& family) const {
-    return resolvePath(programFolder_, airportRelative(name) + u'/' + family) + u'/';
+    const QString folder = resolvePath(programFolder_, airportRelative(name) + u'/' + family);
+    return folder.isEmpty() ? folder : folder + u'/';
 }
 
 } // namespace quarvel

@@ -1,14 +1,14 @@
 #include "files/lookup.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
 #include <dirent.h>
 #include <memory>
 #include <sys/stat.h>
-#include <unistd.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -34,16 +34,20 @@ bool exists(const QString& path) {
 /// A name that is nothing but a chart's extension is a chart without a name, not a hidden file.
 bool isHidden(const QString& name) { return name.startsWith(u'.') && !sameName(name, u".gif"_s); }
 
-/// All entry names of a folder, "." and ".." left out; empty when it cannot be read.
-QStringList entryNames(const QString& folder) {
+/// All entry names of a folder, "." and ".." left out; none, and the system's error number, when it cannot be
+/// read.
+std::pair<QStringList, int> readNames(const QString& folder) {
     QStringList names;
     const std::unique_ptr<DIR, DirCloser> dir(::opendir(QFile::encodeName(folder).constData()));
-    if (!dir) return names;
+    if (!dir) return {names, errno};
+    errno = 0;
     while (const dirent* entry = ::readdir(dir.get())) // NOLINT(concurrency-mt-unsafe): a stream of its own
         if (std::strcmp(entry->d_name, ".") != 0 && std::strcmp(entry->d_name, "..") != 0)
             names.append(QFile::decodeName(entry->d_name));
-    return names;
+    return {names, errno};
 }
+
+QStringList entryNames(const QString& folder) { return readNames(folder).first; }
 
 } // namespace
 
@@ -64,16 +68,21 @@ bool isTaken(const QString& folder, const QString& name) {
 }
 
 QString resolvePath(const QString& root, const QString& relative) {
+    if (root.isEmpty()) return {};
     QString path = root;
     while (path.size() > 1 && path.endsWith(u'/')) path.chop(1);
-    for (const QString& part : relative.split(u'/', Qt::SkipEmptyParts))
+    for (const QString& part : relative.split(u'/', Qt::SkipEmptyParts)) {
+        if (part == u".."_s) return {};
         path += u'/' + nameOnDisk(path, part);
+    }
     return path;
 }
 
 QString resolveForWriting(const QString& root, const QString& relative) {
     const qsizetype cut = relative.lastIndexOf(u'/');
-    return resolvePath(root, relative.left(std::max<qsizetype>(cut, 0))) + u'/' + relative.mid(cut + 1);
+    const QString folder = resolvePath(root, relative.left(std::max<qsizetype>(cut, 0)));
+    const QString name = relative.mid(cut + 1);
+    return folder.isEmpty() || name == u".."_s ? QString() : folder + u'/' + name;
 }
 
 bool holdsExactly(const QString& folder, const QString& name) {
@@ -81,12 +90,11 @@ bool holdsExactly(const QString& folder, const QString& name) {
 }
 
 Result<QStringList> listFiles(const QString& folder) {
-    const QFileInfo info(folder);
-    if (!info.isDir()) return Failure{Fault::NotFound, folder, {}};
-    if (::access(QFile::encodeName(folder).constData(), R_OK | X_OK) != 0)
-        return Failure{Fault::Unreadable, folder, {}};
+    const auto [entries, error] = readNames(folder);
+    if (error == ENOENT || error == ENOTDIR) return Failure{Fault::NotFound, folder, {}};
+    if (error != 0) return Failure{Fault::Unreadable, folder, {}};
     QStringList names;
-    for (const QString& name : entryNames(folder))
+    for (const QString& name : entries)
         if (!isHidden(name) && QFileInfo(folder + u'/' + name).isFile()) names.append(name);
     std::sort(names.begin(), names.end(),
               [](const QString& a, const QString& b) { return compareNames(a, b) < 0; });

@@ -18,7 +18,8 @@ namespace quarvel {
 [[nodiscard]] bool isTaken(const QString& folder, const QString& name);
 
 /// The path of `relative` ("aeroporti/LIRF/Sid") under `root`, each of its components taken as it is
-/// on the disk. Components that are not there yet are kept as written.
+/// on the disk. Components that are not there yet are kept as written. An empty path, which no file has, when
+/// one of them is ".." or the root is empty: whatever a name, a setting or a record says, nobody leaves it.
 [[nodiscard]] QString resolvePath(const QString& root, const QString& relative);
 
 /// Like resolvePath, but the last component keeps its exact letters: the way to a file to be written.

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <cerrno>
 #include <fcntl.h>
+#include <new>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -27,7 +28,12 @@ Result<QByteArray> readWholeFile(const QString& path, qint64 limitBytes) {
     if (!S_ISREG(info.st_mode)) return Failure{Fault::NotRegular, path, {}};
     if (info.st_size > limitBytes) return Failure{Fault::TooLarge, path, {}};
 
-    QByteArray bytes(static_cast<qsizetype>(info.st_size), Qt::Uninitialized);
+    QByteArray bytes;
+    try {
+        bytes.resize(static_cast<qsizetype>(info.st_size));
+    } catch (const std::bad_alloc&) {
+        return Failure{Fault::TooLarge, path, {}}; // for what memory is left
+    }
     qsizetype got = 0;
     while (got < bytes.size()) {
         const ssize_t count =

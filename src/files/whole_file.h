@@ -10,7 +10,7 @@ namespace quarvel {
 
 /// Reads a regular file whole. Nothing but a regular file is ever read, so that a pipe or a device under
 /// a file's name cannot hold the program up. Fails with NotFound, NotRegular, Unreadable, or TooLarge above
-/// `limitBytes`.
+/// `limitBytes` and above what there is memory for.
 [[nodiscard]] Result<QByteArray> readWholeFile(const QString& path, qint64 limitBytes);
 
 /// A file to be written.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <new>
 #include <utility>
 
 namespace quarvel {
@@ -39,7 +40,11 @@ bool isGreyScale(const std::array<std::uint32_t, 256>& palette) {
 Result<Picture> Picture::read(const QString& path) {
     const auto bytes = readWholeFile(path, largestFileBytes);
     if (!bytes) return bytes.failure();
-    return decode(bytes.value(), path);
+    try {
+        return decode(bytes.value(), path);
+    } catch (const std::bad_alloc&) {
+        return Failure{Fault::TooLarge, path, {}}; // for what memory is left
+    }
 }
 
 Result<Picture> Picture::decode(const QByteArray& gif, const QString& path) {

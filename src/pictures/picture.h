@@ -22,7 +22,7 @@ public:
 
     /// Reads the first frame of a GIF file, composed onto its logical screen. Fails with the faults of
     /// readWholeFile, with Damaged (not a GIF, broken or cut off before its trailer) or with TooLarge (a side
-    /// above 32767 pixels or more than 128 million pixels).
+    /// above 32767 pixels, more than 128 million pixels, or more than there is memory for).
     [[nodiscard]] static Result<Picture> read(const QString& path);
 
     /// The same from bytes in memory; `path` only names them in a failure.

@@ -49,6 +49,12 @@ QStringList modLanguageSupport::languages() const {
     return names;
 }
 
+Result<void> modLanguageSupport::checkLanguageFile() const {
+    const Result<QByteArray> texts = readProfile(languageFile());
+    if (texts || texts.failure().fault == Fault::NotFound) return {};
+    return texts.failure();
+}
+
 Result<QString> modLanguageSupport::settingLanguage() const {
     return ReadIniString(settingFile(), u"Language"_s, u"CurrentLanguage"_s);
 }

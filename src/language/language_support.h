@@ -30,6 +30,10 @@ public:
     /// case.
     [[nodiscard]] QStringList languages() const;
 
+    /// Why the current language's texts cannot be had although it has a file. A language without one is not a
+    /// failure: the windows keep the texts that they have.
+    [[nodiscard]] Result<void> checkLanguageFile() const;
+
     /// The language that the setting file names, empty when it has no entry. Fails when the file is missing
     /// or cannot be read.
     [[nodiscard]] Result<QString> settingLanguage() const;

@@ -12,8 +12,9 @@
 namespace quarvel {
 namespace {
 
-/// Language files of any sensible size and well beyond are read; what is larger is no language file.
-constexpr qint64 largestReadBytes = qint64{128} * 1024 * 1024;
+/// A hundred times what the program has texts for; what is larger is no language file. A pass over a window
+/// reads the file some four hundred times, for which nobody shall wait.
+constexpr qint64 largestReadBytes = qint64{8} * 1024 * 1024;
 
 /// The small letter of every letter of Windows-1252, all other bytes as they are.
 constexpr std::array<char, 256> smallLetters = [] {
@@ -171,8 +172,10 @@ QByteArray profileWithValue(QByteArrayView profile, QByteArrayView section, QByt
     return result.insert(at, added);
 }
 
+Result<QByteArray> readProfile(const QString& file) { return readWholeFile(file, largestReadBytes); }
+
 Result<QString> ReadIniString(const QString& file, const QString& section, const QString& key) {
-    const Result<QByteArray> bytes = readWholeFile(file, largestReadBytes);
+    const Result<QByteArray> bytes = readProfile(file);
     if (!bytes) return bytes.failure();
     const std::optional<QByteArray> keyText = lineText(key);
     if (!keyText) return QString();
@@ -192,7 +195,7 @@ bool WriteIniString(const QString& file, const QString& section, const QString& 
     const std::optional<QByteArray> keyText = lineText(key);
     const std::optional<QByteArray> valueText = lineText(value);
     if (!sectionText || !keyText || !valueText) return false;
-    const Result<QByteArray> before = readWholeFile(file, largestReadBytes);
+    const Result<QByteArray> before = readProfile(file);
     if (!before && before.failure().fault != Fault::NotFound) return false;
     const QByteArray profile = before ? before.value() : QByteArray();
     return writeWholeFile(file, profileWithValue(profile, *sectionText, *keyText, *valueText)).ok();

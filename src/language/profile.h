@@ -12,6 +12,9 @@ inline constexpr qint64 largestProfileBytes = 64000;
 /// A value of a profile is cut to this many characters.
 inline constexpr qsizetype longestProfileValue = 511;
 
+/// A profile file's bytes. Fails with the faults of readWholeFile, TooLarge above 8 MB.
+[[nodiscard]] Result<QByteArray> readProfile(const QString& file);
+
 /// The value of an entry of a profile (INI) file in Windows-1252, or an empty text when the section or the
 /// key is absent. The file is read afresh on every call. Fails only when the file itself cannot be read.
 [[nodiscard]] Result<QString> ReadIniString(const QString& file, const QString& section, const QString& key);

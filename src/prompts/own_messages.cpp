@@ -33,6 +33,7 @@ constexpr std::array messages = {
                u"La stampa non è riuscita. Controlla che la stampante sia accesa e pronta, poi riprova."},
     OwnMessage{u"0122",
                u"L'aeroporto non è stato salvato: i dati che hai scritto sono ancora nella finestra."},
+    OwnMessage{u"0123", u"I testi della lingua scelta non possono essere letti."},
     // Why, and what to do.
     OwnMessage{u"0130", u"Questo file o questa cartella non esiste:\n%1\nControlla che sia al suo posto "
                         u"nell'archivio e riprova."},

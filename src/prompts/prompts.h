@@ -26,6 +26,7 @@ enum class Task {
     FindPrinter = 120,
     Print = 121,
     SaveAirport = 122,          ///< a new airport's data file and presenter text file
+    ReadLanguage = 123,         ///< the chosen language's file
     PrepareProgramFolder = 147, ///< at the start, from what the program was installed with
 };
 

@@ -103,6 +103,7 @@ private:
     // Language (frmMain_language.cpp)
     void MLSFillMenuLanguages();
     void setCurrentLanguageAtStart();
+    void tellUnreadableLanguage();
     void ImgLingua_Click(int index);
     void mnuLanguage_Click(int index);
 

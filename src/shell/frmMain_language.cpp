@@ -14,6 +14,7 @@ void frmMain::MLSFillMenuLanguages() {
             prompts_.showFixed(*this, u"Non è presente alcun file di linguaggio!"_s);
         else
             setCurrentLanguageAtStart();
+        tellUnreadableLanguage();
     }
     c->mnuLanguage[0].clicked.calls(this, &frmMain::mnuLanguage_Click, 0);
     for (int k = 0; k < languages_->size(); ++k) {
@@ -40,6 +41,12 @@ void frmMain::setCurrentLanguageAtStart() {
     state_.MLSCurrentLanguage = languages_->contains(italian) ? italian : languages_->first();
 }
 
+void frmMain::tellUnreadableLanguage() {
+    if (c == nullptr) return;
+    if (const Result<void> readable = language_.checkLanguageFile(); !readable)
+        prompts_.tell(*this, Task::ReadLanguage, readable.failure());
+}
+
 void frmMain::ImgLingua_Click(int index) {
     if ((index == 0 || index == 1) && index < languages_->size()) SelectLanguage(index);
 }
@@ -59,6 +66,7 @@ void frmMain::SelectLanguage(int index) {
     }
     // The item's caption is taken again: the language file may have renamed the item meanwhile.
     language_.writeSettingLanguage(c != nullptr ? *c->mnuLanguage[index].caption() : language);
+    tellUnreadableLanguage();
 }
 
 } // namespace quarvel

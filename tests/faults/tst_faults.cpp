@@ -1,0 +1,247 @@
+#include "archive/paths.h"
+#include "faults/odd_things.h"
+#include "files/lookup.h"
+#include "pictures/gif_maker.h"
+#include "pictures/picture.h"
+#include "prompts/own_messages.h"
+#include "support/ordinary_user.h"
+#include "support/test_program.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <memory>
+#include <sys/resource.h>
+#include <sys/wait.h>
+
+using namespace quarvel;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool memoryCanBeLimited = false;
+#elif defined(__has_feature)
+constexpr bool memoryCanBeLimited = !__has_feature(address_sanitizer);
+#else
+constexpr bool memoryCanBeLimited = true;
+#endif
+
+/// Runs a test in a child process that may take so many bytes more than it has.
+bool holdsWithLittleMemory(rlim_t bytes, const std::function<bool()>& test) {
+    const pid_t child = ::fork();
+    if (child == 0) {
+        QFile statm(u"/proc/self/statm"_s);
+        if (!statm.open(QIODevice::ReadOnly)) ::_exit(2);
+        const rlim_t taken = statm.readAll().split(' ').first().toULong() * 4096;
+        const rlimit limit{taken + bytes, taken + bytes};
+        ::setrlimit(RLIMIT_AS, &limit);
+        ::_exit(test() ? 0 : 1);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+std::unique_ptr<TestProgram> started() {
+    auto test = std::make_unique<TestProgram>();
+    test->addAirport(u"LIRF"_s);
+    test->addChart(u"aeroporti/LIRF/Sid/KENN.gif"_s, {30, 40});
+    test->start();
+    return test;
+}
+
+QString lastTold(const TestProgram& test) {
+    return test.boxes.shown.isEmpty() ? QString() : test.boxes.shown.last().text;
+}
+
+/// A name comes into the name box, by whatever way, and the list follows.
+void enter(const TestProgram& test, const QString& name) {
+    auto* box = TestProgram::control<QLineEdit>(test.mainWindow(), u"txtNomeAeroporto"_s);
+    box->setText(name);
+    QTest::keyClick(box, Qt::Key_End);
+}
+
+bool says(QWidget* window, const QString& control, const QString& words) {
+    for (const QLabel* label : TestProgram::control(window, control)->findChildren<QLabel*>())
+        if (label->isVisible() && label->text().remove(QChar(0x200B)).contains(words)) return true;
+    return false;
+}
+
+} // namespace
+
+/// Folders that are not there or may not be read, records that are none, names that lead elsewhere.
+class FaultsTest : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aFolderThatCannotBeReadIsTold() {
+        const auto test = started();
+        QWidget* window = test->mainWindow();
+        const auto closed = [&](const QString& folder, const std::function<void()>& use) {
+            const QByteArray path = QFile::encodeName(test->path(folder));
+            ::chmod(path.constData(), 0311); // entered, but not listed
+            {
+                const OrdinaryUser user(test->path({}));
+                use();
+            }
+            ::chmod(path.constData(), 0755);
+        };
+        closed(u"aeroporti"_s, [&] {
+            test->type(u"LI"_s);
+            QVERIFY(says(window, u"lstWords"_s, test->path(u"aeroporti"_s)));
+        });
+        enter(*test, {});
+        test->openViewer(u"LIRF"_s);
+        closed(u"aeroporti/LIRF/Sid"_s, [&] { TestProgram::click(test->viewWindow(), u"Option1(0)"_s); });
+        QVERIFY(lastTold(*test).contains(test->path(u"aeroporti/LIRF/Sid"_s)));
+        QVERIFY(lastTold(*test).contains(builtInText(u"0132"_s).section(u'\n', 0, 0)));
+        TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
+        QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s), QStringList(u"KENN"_s));
+    }
+
+    void anAirportThatIsDeletedWhileItIsShown() {
+        const auto test = started();
+        test->type(u"LIRF"_s);
+        QVERIFY(QDir().rename(test->path(u"aeroporti/LIRF"_s), test->path(u"away"_s)));
+        test->boxes.answers = {Answer::Cancel};
+        TestProgram::clickRow(test->mainWindow(), u"lstWords"_s, 0); // listed, but gone: offered as a new one
+        QCOMPARE(test->boxes.shown.size(), 1);
+        QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF"_s)));
+        QVERIFY(QDir().rename(test->path(u"away"_s), test->path(u"aeroporti/LIRF"_s)));
+
+        test->openViewer(u"LIRF"_s);
+        TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
+        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 0);
+        QVERIFY(QDir(test->path(u"aeroporti/LIRF"_s)).removeRecursively());
+        test->boxes.shown.clear();
+        for (const auto& command :
+             {u"Option1(1)"_s, u"Option1(2)"_s, u"Command1"_s, u"Command2"_s, u"cmdStampa"_s, u"cmdSave"_s})
+            TestProgram::click(test->viewWindow(), command);
+        QCOMPARE(test->boxes.shown.size(), 4); // two lists, the question and the refusal of the save
+        QVERIFY(lastTold(*test).contains(builtInText(u"0118"_s)));
+        QCOMPARE(test->program().viewWindow().ChartName, u"KENN"_s);
+        test->boxes.shown.clear();
+        TestProgram::click(test->viewWindow(), u"Command4"_s);
+        QTRY_VERIFY(lastTold(*test).contains(builtInText(u"0115"_s)));
+        TestProgram::chooseItem(test->companionWindow(), u"mnuAeroporto"_s);
+        QTRY_VERIFY(lastTold(*test).contains(builtInText(u"0113"_s)));
+        QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF"_s))); // nobody brought it back
+    }
+
+    void aRecordThatIsNoneIsTold_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("reason"); // empty when there are 39 values all the same
+        QByteArray all;
+        for (int value = 0; value < 256; ++value) all.append(static_cast<char>(value));
+        QTest::newRow("38 values") << QByteArray("\"a\"\r\n").repeated(38) << u"0136"_s;
+        QTest::newRow("one open quote") << QByteArray("\"a\",b") << u"0136"_s;
+        QTest::newRow("10 MB") << QByteArray("\"a\"\r\n").repeated(2 << 20) << u"0135"_s;
+        QTest::newRow("every byte there is") << all << u"0136"_s;
+        QTest::newRow("every byte, often") << all.repeated(40) << QString();
+        QTest::newRow("NUL bytes") << QByteArray("\"a\0b\"\r\n", 7).repeated(38) + "\"LIRF\"\r\n"
+                                   << QString();
+    }
+    void aRecordThatIsNoneIsTold() {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, reason);
+        const auto test = started();
+        test->write(u"aeroporti/LIRF/Aeroporto/LIRF.txt"_s, bytes);
+        test->openAirport(u"LIRF"_s);
+        const bool told = lastTold(*test).contains(builtInText(u"0111"_s)) &&
+                          lastTold(*test).contains(builtInText(reason).section(u'\n', 0, 0));
+        QCOMPARE(told, !reason.isEmpty());
+        QCOMPARE(test->read(u"aeroporti/LIRF/Aeroporto/LIRF.txt"_s), bytes);
+    }
+
+    void aNameThatLeadsElsewhereIsRefused_data() {
+        QTest::addColumn<QString>("name");
+        for (const auto& name : {u".."_s, u"."_s, u"../LIRF"_s, u"LIRF/../LIRF"_s, u"..\\LIRF"_s, u"/etc"_s,
+                                 u"C:LIRF"_s, u"LI*"_s})
+            QTest::newRow(qPrintable(name)) << name;
+    }
+    void aNameThatLeadsElsewhereIsRefused() {
+        QFETCH(QString, name);
+        const auto test = started();
+        const auto before = QDir(test->path({})).entryList(QDir::AllEntries | QDir::Hidden);
+        enter(*test, name);
+        TestProgram::click(test->mainWindow(), u"cmdElabora"_s);
+        QVERIFY(lastTold(*test).contains(builtInText(u"0110"_s)));
+        QCOMPARE(QDir(test->path({})).entryList(QDir::AllEntries | QDir::Hidden), before);
+    }
+
+    void aNameThatCannotBeAFolderIsRefusedWhenItIsMade_data() {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("a dot at its end") << u"LIRX."_s;
+        QTest::newRow("a blank at its end") << u"LIRX "_s;
+        QTest::newRow("256 letters") << QString(256, u'X');
+        QTest::newRow("252 bytes") << QString(126, u'È');
+    }
+    void aNameThatCannotBeAFolderIsRefusedWhenItIsMade() {
+        QFETCH(QString, name);
+        const auto test = started();
+        enter(*test, name);
+        TestProgram::click(test->mainWindow(), u"cmdElabora"_s); // the question is answered by OK
+        QVERIFY(lastTold(*test).contains(builtInText(u"0110"_s)));
+        QCOMPARE(QDir(test->path(u"aeroporti"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
+                 QStringList(u"LIRF"_s));
+    }
+
+    void accentsAreTheSameHoweverTheyAreStored() {
+        for (const auto& [stored, typed] :
+             {std::pair(u"FORLI\u0300"_s, u"forl\u00EC"_s), {u"FORL\u00CC"_s, u"FORLI\u0300"_s}}) {
+            const auto test = started();
+            test->addAirport(u"LIPK"_s);
+            QDir archive(test->path(u"aeroporti"_s));
+            QVERIFY(archive.rename(u"LIPK"_s, stored));
+            QVERIFY(archive.rename(stored + u"/Aeroporto/LIPK.txt"_s,
+                                   stored + u"/Aeroporto/%1.txt"_s.arg(stored)));
+            enter(*test, typed);
+            TestProgram::clickRow(test->mainWindow(), u"lstWords"_s, 0);
+            QVERIFY(TestProgram::control(test->mainWindow(), u"Frame4"_s)->isVisible());
+            QVERIFY(test->boxes.shown.isEmpty());
+        }
+    }
+
+    void noRecordSettingOrNameLeavesTheFolder() {
+        const auto test = started();
+        test->addChart(u"aeroporti/LIRF/OUT.gif"_s, {10, 10}); // outside of where it would be asked for
+        test->write(u"aeroporti/OUT_Agent.txt"_s, "secret");
+        const QByteArray record = QByteArray("\"a\"\r\n").repeated(38) + "\"../OUT\"\r\n";
+        test->write(u"aeroporti/LIRF/Aeroporto/LIRF.txt"_s, record);
+        test->openAirport(u"LIRF"_s);
+        QVERIFY(test->end.ended && test->presenter.loaded.isEmpty()); // no picture, no text
+        const ArchivePaths paths(test->path({}));
+        QCOMPARE(paths.picture(u"LIRF"_s, u"../OUT"_s), QString());
+        QCOMPARE(paths.presenterText(u"LIRF"_s, u"../../OUT"_s), QString());
+        QCOMPARE(paths.dataFileForWriting(u"../OUT"_s), QString());
+        QCOMPARE(paths.familyFolder(u".."_s, u"Sid"_s), QString());
+        QCOMPARE(resolvePath({}, u"etc/passwd"_s), QString());
+        test->write(u"out.lng"_s, "[frmMain]\r\ncmdElabora.Caption=\"OUT\"\r\n");
+        test->write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=aeroporti/../out\r\n");
+        test->start();
+        QVERIFY(TestProgram::control<QAbstractButton>(test->mainWindow(), u"cmdElabora"_s)->text() !=
+                u"OUT"_s);
+    }
+
+    void whatMemoryDoesNotHoldIsToldAsTooLarge() {
+        if (!memoryCanBeLimited) QSKIP("the sanitizer reserves more than any limit");
+        const QTemporaryDir folder;
+        const QString chart = folder.path() + u"/chart.gif"_s;
+        GifRecipe recipe{
+            .screen = {6000, 6000}, .place = {0, 0, 6000, 6000}, .pixels = {}, .colours = {0, 1}};
+        recipe.pixels.assign(36'000'000, 0);
+        put(chart, makeGif(recipe));
+        QVERIFY(Picture::read(chart));
+        putSparse(folder.path() + u"/large"_s, 100 << 20);
+        QVERIFY(holdsWithLittleMemory(20 << 20, [&] {
+            const auto picture = Picture::read(chart);
+            const auto file = readWholeFile(folder.path() + u"/large"_s, qint64{1} << 30);
+            return !picture && picture.failure().fault == Fault::TooLarge && !file &&
+                   file.failure().fault == Fault::TooLarge;
+        }));
+    }
+};
+
+QTEST_MAIN(FaultsTest)
+#include "tst_faults.moc"

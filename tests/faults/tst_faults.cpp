@@ -10,6 +10,7 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <memory>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -98,6 +99,39 @@ private Q_SLOTS:
         QVERIFY(lastTold(*test).contains(builtInText(u"0132"_s).section(u'\n', 0, 0)));
         TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
         QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s), QStringList(u"KENN"_s));
+    }
+
+    void whatCannotBeWrittenIsToldAndNothingTypedIsLost_data() {
+        QTest::addColumn<bool>("full");
+        QTest::newRow("a disk that is full") << true;
+        QTest::newRow("folders that belong to somebody else") << false;
+    }
+    void whatCannotBeWrittenIsToldAndNothingTypedIsLost() {
+        QFETCH(bool, full);
+        const auto test = started();
+        const QString reason = builtInText(full ? u"0134"_s : u"0133"_s).section(u'\n', 0, 0);
+        test->openViewer(u"LIRF"_s);
+        TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
+        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 0);
+        auto* route = TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text2"_s);
+        QTest::keyClicks(route, u"via"_s);
+        const auto before =
+            QDir(test->path(u"aeroporti/LIRF/Sid"_s)).entryList(QDir::AllEntries | QDir::Hidden);
+        {
+            const auto limit = full ? std::make_unique<FileSizeLimit>(0) : nullptr;
+            const auto user = full ? nullptr : std::make_unique<OrdinaryUser>(test->path({}));
+            TestProgram::click(test->viewWindow(), u"cmdSave"_s);
+            QVERIFY(lastTold(*test).contains(builtInText(u"0118"_s)) && lastTold(*test).contains(reason));
+            QCOMPARE(route->toPlainText(), u"VIA"_s);
+            TestProgram::click(test->viewWindow(), u"Command3"_s);
+            QTRY_VERIFY(test->mainWindow() != nullptr);
+            test->boxes.shown.clear();
+            test->program().mainWindow().SelectLanguage(0); // chosen all the same, though not remembered
+            QVERIFY(test->boxes.shown.isEmpty());
+            QCOMPARE(test->read(u"LangSetting.ini"_s).contains("Italiano"), true);
+        }
+        QCOMPARE(QDir(test->path(u"aeroporti/LIRF/Sid"_s)).entryList(QDir::AllEntries | QDir::Hidden),
+                 before);
     }
 
     void anAirportThatIsDeletedWhileItIsShown() {

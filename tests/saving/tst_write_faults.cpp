@@ -1,3 +1,4 @@
+#include "archive/record_file.h"
 #include "saving/savings.h"
 #include "support/disk.h"
 #include "support/own_mounts.h"
@@ -92,7 +93,9 @@ private Q_SLOTS:
             if (!makeReadOnly(disk)) return u"not made read-only"_s;
             bool saved = false;
             const QString wrong = saveUnder(what, folder, [&] { return saved = save(what, folder, 1); });
-            return saved ? u"saved on a read-only file system"_s : wrong;
+            if (saved || !readRecord(ArchivePaths(folder).dataFile(u"KILL"_s)))
+                return u"saved on a read-only file system, or not read from it"_s;
+            return wrong;
         });
     }
 

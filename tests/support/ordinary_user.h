@@ -12,7 +12,8 @@ public:
     /// `folder` is the test's temporary folder, which that user shall be able to enter.
     explicit OrdinaryUser(const QString& folder) : wasRoot_(::geteuid() == 0) {
         constexpr uid_t nobody = 65534;
-        QFile::setPermissions(folder, QFile::permissions(folder) | QFile::ReadOther | QFile::ExeOther);
+        QFile::setPermissions(folder, QFile::permissions(folder) | QFile::ReadOther | QFile::ExeOther |
+                                          QFile::ReadGroup | QFile::ExeGroup);
         if (wasRoot_ && ::setresuid(nobody, nobody, 0) != 0) qFatal("cannot become an ordinary user");
     }
     ~OrdinaryUser() {

@@ -23,20 +23,20 @@ quietly() {
     return "$status"
 }
 
-# configure [PRESET]: makes build/PRESET, that is build/release, ready to be built in. Ninja looks after later changes of the
-# CMake files itself, but not of the presets, nor of a clone that was moved or copied together with its build folder.
-configure() {
-    local preset=${1-release}
-    local cache=build/$preset/CMakeCache.txt ninja=build/$preset/build.ninja
+# configure_in PRESET: makes build/PRESET ready to be built in. Ninja looks after later changes of the CMake files itself,
+# but not of the presets, nor of a clone that was moved or copied together with its build folder.
+configure_in() {
+    local cache=build/$1/CMakeCache.txt ninja=build/$1/build.ninja
     if [[ -f $ninja && ! CMakePresets.json -nt $ninja ]] && grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$root" "$cache"; then
         return
     fi
-    quietly cmake --preset "$preset" --fresh || fail "the build could not be configured"
+    quietly cmake --preset "$1" --fresh || fail "the build could not be configured"
     touch "$ninja"
 }
 
-# build TARGET...: compiles in build/release and shows the compiler's words only when it fails.
-build() { build_in release "$@"; }
-
-# build_in PRESET TARGET...: the same in build/PRESET.
+# build_in PRESET TARGET...: compiles in build/PRESET and shows the compiler's words only when it fails.
 build_in() { quietly cmake --build "build/$1" --target "${@:2}" || fail "the build failed"; }
+
+# The same for build/release.
+configure() { configure_in release; }
+build() { build_in release "$@"; }

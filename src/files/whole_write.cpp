@@ -116,7 +116,7 @@ public:
         const FolderLocks locks(folders);
         if (!locks.held()) return Failure{Fault::Unwritable, folders.first(), {}};
         for (auto file = files_.begin(); file != files_.end(); ++file) {
-            const Result<void> taken = file->takeName();
+            Result<void> taken = file->takeName();
             if (taken) continue;
             while (file != files_.begin()) (--file)->takeNameBack();
             return taken;

@@ -82,13 +82,6 @@ private Q_SLOTS:
         QVERIFY(parseRecord(filled.chopped(2), u"x"_s).value() == record.value());
     }
 
-    void recordsThatAreNoneAreTold() {
-        QCOMPARE(parseRecord({}, u"x"_s).failure().fault, Fault::TooShort);
-        QCOMPARE(parseRecord(" \r\n ", u"x"_s).failure().detail, u"1"_s);
-        put(at(u"large.txt"_s), QByteArray("\"a\"\r\n").repeated(400'000));
-        QCOMPARE(readRecord(at(u"large.txt"_s)).failure().fault, Fault::TooLarge);
-    }
-
     void namesToOpenAndNamesToMake() {
         const auto judged = [](const QString& name) {
             return u"%1%2%3"_s.arg(checkAirportName(name, NameUse::Existing).ok())

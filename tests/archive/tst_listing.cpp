@@ -148,18 +148,6 @@ private Q_SLOTS:
         QVERIFY(!search.keeps(temp.path()));
     }
 
-    void aFolderDatedInTheFutureIsKept() {
-        const QTemporaryDir temp;
-        const timespec farOff{.tv_sec = 10'413'792'000, .tv_nsec = 0}; // in the year 2300
-        const timespec times[] = {farOff, farOff};
-        QCOMPARE(::utimensat(AT_FDCWD, QFile::encodeName(temp.path()).constData(), times, 0), 0);
-        ArchiveSearch search(std::chrono::nanoseconds(0));
-        QVERIFY(rows(search.list(temp.path(), {})).isEmpty());
-        const QFileInfo info(temp.path());
-        if (info.lastModified().date().year() != 2300) QSKIP("this file system has no such dates");
-        QVERIFY(search.keeps(temp.path()));
-    }
-
     void orderOfManyNames() {
         const QTemporaryDir temp;
         const QDir dir(temp.path());

@@ -80,31 +80,6 @@ private Q_SLOTS:
         put(folder_.starter + u"/aeroporti/LIRF/Sid/kenn1.gif"_s, QByteArray(chartBytes, 'c'));
     }
 
-    void chosen_data() {
-        QTest::addColumn<bool>("archiveBeside");
-        QTest::addColumn<bool>("starterInstalled");
-        QTest::addColumn<bool>("writable");
-        QTest::addColumn<bool>("ownFolder");
-        QTest::newRow("an archive beside it makes it portable, even on a read-only disk")
-            << true << false << false << true;
-        QTest::newRow("an archive beside it goes before a starter") << true << true << true << true;
-        QTest::newRow("installed, the user's data folder") << false << true << false << false;
-        QTest::newRow("installed, and started by the administrator") << false << true << true << false;
-        QTest::newRow("where nothing can be written, the user's data folder")
-            << false << false << false << false;
-        QTest::newRow("neither: its own folder") << false << false << true << true;
-    }
-    void chosen() {
-        QFETCH(bool, archiveBeside);
-        QFETCH(bool, starterInstalled);
-        QFETCH(bool, writable);
-        QFETCH(bool, ownFolder);
-        const ProgramFolder chosen =
-            chooseProgramFolder({u"/opt/q/bin"_s, u"/h/share"_s, archiveBeside, starterInstalled, writable});
-        QCOMPARE(chosen.path, ownFolder ? u"/opt/q/bin"_s : u"/h/share/quarvel"_s);
-        QCOMPARE(chosen.starter, ownFolder ? QString() : u"/opt/q/share/quarvel/starter"_s);
-    }
-
     void surroundingsAreLookedAt() {
         const QString bin = at(u"usr/bin"_s);
         QVERIFY(QDir().mkpath(bin));
@@ -228,28 +203,6 @@ private Q_SLOTS:
             QCOMPARE(bytesOf(laid(u"aeroporti/LIRF/Sid/kenn1.gif"_s)).size(), chartBytes);
             QVERIFY(QDir(folder_.path).removeRecursively());
         }
-    }
-
-    void failuresNameThePlace_data() {
-        QTest::addColumn<QString>("spoiled");
-        QTest::addColumn<Fault>("fault");
-        QTest::addColumn<QString>("told");
-        QTest::newRow("a home that cannot be written") << u"home"_s << Fault::Unwritable << u"home"_s;
-        QTest::newRow("a folder's name that is taken")
-            << u"home/share/quarvel"_s << Fault::Unwritable << u"home/share/quarvel"_s;
-        QTest::newRow("a starter that is missing")
-            << u"usr/share/quarvel/starter"_s << Fault::NotFound << u"usr/share/quarvel/starter"_s;
-    }
-    /// A file where a folder should be refuses the administrator too.
-    void failuresNameThePlace() {
-        QFETCH(QString, spoiled);
-        QFETCH(Fault, fault);
-        QFETCH(QString, told);
-        QVERIFY(QDir().mkpath(at(u"home/share"_s)) && QDir(at(spoiled)).removeRecursively());
-        put(at(spoiled));
-        const Result<void> result = layOutProgramFolder(folder_);
-        QVERIFY(!result && result.failure().fault == fault);
-        QCOMPARE(result.failure().path, at(told));
     }
 
     void anArchiveWithoutAStarterIsComplete() {

@@ -86,14 +86,7 @@ private Q_SLOTS:
         }
     }
 
-    void pictureThatCannotBeReadIsToldAndTheOldOneStays() {
-        const auto test = companion();
-        QVERIFY(QFile::remove(test->path(u"aeroporti/LIRF/Aeroporto/LIRF.gif"_s)));
-        choose(*test, u"mnuAeroporto"_s);
-        QTRY_COMPARE(test->boxes.shown.size(), 1);
-        QVERIFY(test->boxes.shown[0].text.contains(u"LIRF.gif"_s));
-        QCOMPARE(image(*test)->size(), chart);
-        QVERIFY(enabled(*test, u"mnuAeroporto"_s) && !enabled(*test, u"mnuProcScelta"_s));
+    void thePhotoComesThoughTheChartCannotBeRead() {
         const auto without = companion([](TestProgram& program) {
             program.write(u"aeroporti/LIRF/Sid/Kenn1.GIF"_s, "GIF89a, and no more");
         });

@@ -71,40 +71,6 @@ private Q_SLOTS:
         QCOMPARE(readWholeFile(at(u"pipe"_s), 6).failure().fault, Fault::NotRegular); // does not block
         QCOMPARE(writeWholeFile(at(u"pipe"_s), bytes).failure().fault, Fault::NotRegular);
     }
-
-    void writingReplacesInOneStep() {
-        const QByteArray bytes("new\0\r\n", 6);
-        const mode_t mask = ::umask(027);
-        const bool created = writeWholeFile(at(u"fresh"_s), bytes).ok();
-        ::umask(mask);
-        QVERIFY(created);
-        QCOMPARE(bytesOf(at(u"fresh"_s)), bytes);
-        struct stat info {};
-        QCOMPARE(::stat(QFile::encodeName(at(u"fresh"_s)).constData(), &info), 0);
-        QCOMPARE(info.st_mode & 0777U, 0640U); // the user's usual mode
-
-        put(at(u"old"_s), "a longer old content");
-        QVERIFY(QFile::link(at(u"old"_s), at(u"link"_s)));
-        QVERIFY(writeWholeFile(at(u"link"_s), bytes).ok());
-        QCOMPARE(bytesOf(at(u"old"_s)), bytes);
-        QVERIFY(QFileInfo(at(u"link"_s)).isSymLink());
-    }
-
-    void failedWriteKeepsTheOldFile() {
-        put(at(u"file"_s), "old");
-        for (const int size :
-             {200'000, 5'000}) { // in the middle of the bytes, and when the buffer is flushed
-            Result<void> result;
-            {
-                const FileSizeLimit limit(4096);
-                result = writeWholeFile(at(u"file"_s), QByteArray(size, 'x'));
-            }
-            QVERIFY(!result && result.failure().fault == Fault::DiskFull);
-            QCOMPARE(bytesOf(at(u"file"_s)), "old");
-            QCOMPARE(QDir(root_).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
-                     QStringList{u"file"_s});
-        }
-    }
 };
 
 QTEST_GUILESS_MAIN(TestFiles)

@@ -187,20 +187,6 @@ private Q_SLOTS:
         QCOMPARE(*tagless.place, (Measures{20, 0, 60, 0})); // a measure beyond 32 bits is none
     }
 
-    void windowWithoutControlsIsNeverRecorded() {
-        PlacedWindow window;
-        clsResize resizer;
-        resizer.setSourceForm(&window);
-        resizer.ResizeControls();
-        PlacedControl& control = window.add(Measures{10, 20, 30, 40});
-        window.width *= 2;
-        resizer.ResizeControls(); // so that this is the first call
-        QCOMPARE(control.set, 0);
-        window.width *= 2;
-        resizer.ResizeControls();
-        QCOMPARE(*control.place, (Measures{20, 20, 60, 40}));
-    }
-
     void sizeToScreenRecordsFirstAndCentres() {
         PlacedWindow window;
         PlacedControl& control = window.add(Measures{10, 20, 30, 40});

@@ -22,13 +22,6 @@ class CharacterTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void theNamedAnimationsAreKnown() {
-        for (const char* name : {"Greet", "RestPose", "Decline", "Read", "ReadReturn", "Wave"})
-            QVERIFY2(animationNamed(QString::fromLatin1(name)).has_value(), name);
-        QVERIFY(animationNamed(u"ReadReturn") == ReadReturn);
-        QVERIFY(!animationNamed(u"Reading") && !animationNamed(u"greet") && !animationNamed(u""));
-    }
-
     void animationsJoinAndMoveWithoutJumps() {
         Stance stance = Stance::Away;
         for (const Animation each : {Show, Greet, RestPose, Decline, Read, ReadReturn, Wave, Hide}) {

@@ -120,13 +120,6 @@ private Q_SLOTS:
         QCOMPARE(allOf(diary, queue), all + all + all);
     }
 
-    void withoutCharacterNothingIsAsked() {
-        OneFileAgent agent;
-        AgentCharacter* genie = nullptr;
-        presentText(agent, genie, u"Roma"_s);
-        QVERIFY(genie == nullptr);
-    }
-
     void whatCannotBeDoneIsPassedOver() {
         Diary diary;
         RequestQueue queue(diary);

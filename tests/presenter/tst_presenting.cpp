@@ -1,38 +1,10 @@
 #include "presenter/airport_presenter.h"
-#include "presenter/voice/espeak_voice.h"
 #include "support/test_program.h"
-
-#include <QDir>
-#include <QFile>
 
 using namespace quarvel;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool keepsFreedMemory = true;
-#elif defined(__has_feature)
-constexpr bool keepsFreedMemory = __has_feature(address_sanitizer);
-#else
-constexpr bool keepsFreedMemory = false;
-#endif
-
-/// What a process holds, by /proc.
-struct Holdings {
-    qsizetype handles;
-    qsizetype children;
-    long kilobytes; ///< resident
-
-    static Holdings now() {
-        QFile statm(u"/proc/self/statm"_s);
-        QFile children(u"/proc/self/task/%1/children"_s.arg(QCoreApplication::applicationPid()));
-        if (!statm.open(QIODevice::ReadOnly) || !children.open(QIODevice::ReadOnly)) qFatal("no /proc");
-        return {QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System).size(),
-                children.readAll().count(' '), // one behind each
-                statm.readAll().split(' ').at(1).toLong() * 4};
-    }
-};
 
 /// Speaks every text at once and keeps it.
 class InstantVoice : public Voice {
@@ -89,31 +61,6 @@ private Q_SLOTS:
         openAnd(test, u"LIRF"_s);
         openAnd(test, u"LIMC"_s);
         QCOMPARE(test.presenter.presented, QStringList({u"LIRF_Agent.txt"_s, QString()}));
-    }
-
-    void hundredAirportsLeaveNothingBehind() {
-        const Holdings before = Holdings::now();
-        {
-            AirportPresenter presenter([] { return std::make_unique<EspeakVoice>(); });
-            TestProgram test;
-            test.presents = &presenter;
-            for (int i = 0; i < 10; ++i) {
-                test.addAirport(u"LI%1"_s.arg(i));
-                test.write(u"aeroporti/LI%1/LI%1_Agent.txt"_s.arg(i),
-                           QByteArray("Benvenuti.\r\n").repeated(20));
-            }
-            test.start();
-            for (int i = 0; i < 20; ++i) openAnd(test, u"LI%1"_s.arg(i % 10));
-            const Holdings warm = Holdings::now();
-            for (int i = 20; i < 100; ++i) openAnd(test, u"LI%1"_s.arg(i % 10));
-            const Holdings then = Holdings::now();
-            QVERIFY2(then.handles <= warm.handles + 4, qPrintable(QString::number(then.handles)));
-            if (!keepsFreedMemory)
-                QVERIFY2(then.kilobytes <= warm.kilobytes + 4096,
-                         qPrintable(QString::number(then.kilobytes)));
-            QVERIFY(then.children <= 1);
-        }
-        QTRY_COMPARE(Holdings::now().children, before.children);
     }
 };
 

@@ -45,27 +45,6 @@ private Q_SLOTS:
         QVERIFY(QDir(airport + u"Sid"_s).exists()); // made with the save, the name being new
     }
 
-    void aSaveThatFailsChangesNothing() {
-        const QTemporaryDir folder;
-        const QString archive = folder.path() + u"/aeroporti/"_s;
-        QDir().mkpath(archive + u"ROMA/Aeroporto"_s);
-        QDir().mkpath(archive + u"ROMA/DIR_Agent.txt"_s); // a folder in the presenter text's place
-        QDir().mkpath(archive + u"VUOTO"_s);              // without its general-data folder
-        put(archive + u"ROMA/Aeroporto/ROMA.txt"_s, "old");
-        AirportRecord record;
-        for (const auto& [name, code] : {std::pair(u"../ROMA"_s, u"LIRF"_s),
-                                         {u"ROMA"_s, u"../X"_s},
-                                         {u"VUOTO"_s, u"LIRF"_s},
-                                         {u"ROMA"_s, u"DIR"_s}}) {
-            record.values[IcaoCode] = code;
-            QVERIFY2(!saveAirport(ArchivePaths(folder.path()), name, record), qPrintable(name + code));
-        }
-        QCOMPARE(bytesOf(archive + u"ROMA/Aeroporto/ROMA.txt"_s), QByteArray("old"));
-        QCOMPARE(QDir(archive).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
-                 QStringList({u"ROMA"_s, u"VUOTO"_s}));
-        QCOMPARE(QDir(archive + u"ROMA/Aeroporto"_s).entryList(QDir::Files), QStringList(u"ROMA.txt"_s));
-    }
-
     void fiveHundredKillsLeaveWholeFilesAndAProgramThatStarts() {
         TestProgram test;
         const QString folder = test.path({});

@@ -165,24 +165,6 @@ private Q_SLOTS:
         QVERIFY(!TestProgram::control<QLineEdit>(window, u"txtRwy(38)"_s)->isReadOnly());
         QCOMPARE(test.program().state().CurrentAirport, u"NUOVO"_s);
     }
-
-    void failuresLeaveTheWindowAsItWas() {
-        for (const auto& [file, told] :
-             {std::pair(u"LIRF.txt"_s, u"incompleto"_s), {u"LIRF.gif"_s, u"danneggiato"_s}}) {
-            TestProgram test;
-            test.addAirport(u"LIRF"_s);
-            test.write(u"aeroporti/LIRF/Aeroporto/"_s + file, "neither a GIF nor a record");
-            test.start();
-            test.openAirport(u"L"_s);
-            QWidget* window = test.mainWindow();
-            QCOMPARE(test.boxes.shown.size(), 1);
-            QVERIFY(test.boxes.shown.first().text.contains(told));
-            QVERIFY(test.boxes.shown.first().text.contains(file));
-            QCOMPARE(text(window, u"txtNomeAeroporto"_s), u"L"_s);
-            QVERIFY(visible(window, u"fraRicerca"_s) && !visible(window, u"Frame4"_s));
-            QCOMPARE(test.program().state().CurrentAirport, QString());
-        }
-    }
 };
 
 QTEST_MAIN(OpeningTest)

@@ -81,17 +81,6 @@ private Q_SLOTS:
         QCOMPARE(values(*wheeled), values(*clicked));
     }
 
-    void aRefusedZoomBeepsOnce() {
-        const auto test = viewer();
-        const ChartDriver chart(test->viewWindow());
-        for (int i = 0; i < 12; ++i)
-            ChartDriver::wheel(chart.frame, {100, 100}, {0, 120}, Qt::ControlModifier);
-        QCOMPARE(test->beeper.beeps, 2); // a beep a notch
-        for (int i = 0; i < 80; ++i)
-            ChartDriver::wheel(chart.frame, {100, 100}, {0, 15}, Qt::ControlModifier);
-        QCOMPARE(test->beeper.beeps, 2); // fine turns are one sweep with the last notch
-    }
-
     void theMiddleButtonDragsTheChart() {
         const auto test = viewer();
         const ChartDriver chart(test->viewWindow());
@@ -185,40 +174,6 @@ private Q_SLOTS:
         }
         QCOMPARE(values(*test), QPoint(300, 200));
         QCOMPARE(chart.image->size(), QSize(800, 1100));
-    }
-
-    void withoutAChartNothingMoves() {
-        const auto test = withoutChart();
-        const ChartDriver chart(test->viewWindow());
-        const QRect before = chart.image->geometry();
-        ChartDriver::wheel(chart.frame, paper, {0, -120});
-        ChartDriver::wheel(chart.frame, {20, 60}, {0, 120}, Qt::ControlModifier);
-        chart.hold(paper);
-        chart.moveTo({10, 10});
-        chart.release({10, 10});
-        chart.frame->setFocus();
-        for (const auto key : {Qt::Key_Down, Qt::Key_End, Qt::Key_Plus, Qt::Key_Minus})
-            QTest::keyClick(chart.frame, key);
-        QCOMPARE(chart.image->geometry(), before);
-        QCOMPARE(TestProgram::control<QScrollBar>(test->viewWindow(), u"VScroll1"_s)->value(), 0);
-        QCOMPARE(test->program().viewWindow().ZoomLevel, 0);
-    }
-
-    void theKeyboardsFocusShowsAtTheEdge() {
-        const auto test = viewer();
-        const ChartDriver chart(test->viewWindow());
-        const auto edge = [&] {
-            const QRect seen = chart.frame->geometry() & test->viewWindow()->rect();
-            return test->viewWindow()->grab(seen).toImage().pixelColor(seen.width() / 3, 1);
-        };
-        QTest::mouseClick(chart.image, Qt::MiddleButton, {}, {400, 400});
-        QVERIFY(chart.frame->hasFocus());
-        QCOMPARE(edge(), QColor(Qt::white));
-        QTest::keyClick(test->viewWindow(), Qt::Key_Backtab, Qt::ShiftModifier);
-        QVERIFY(!chart.frame->hasFocus());
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        QVERIFY(chart.frame->hasFocus());
-        QVERIFY(edge().lightness() < 140);
     }
 };
 

@@ -78,11 +78,6 @@ private Q_SLOTS:
         QWidget* window = test->viewWindow();
         QCOMPARE(window->size(), QSize(752, 592));
         QVERIFY(!TestProgram::control(window, u"frame6"_s)->isEnabled());
-        QVERIFY(QDir(test->path(u"aeroporti/LIRF"_s)).rename(u"Star"_s, u"Gone"_s));
-        TestProgram::click(window, u"Option1(1)"_s);
-        QVERIFY(test->boxes.shown.last().text.contains(u"/Star"_s));
-        QVERIFY(TestProgram::control(window, u"frame6"_s)->isEnabled()); // the way back is open all the same
-        QVERIFY(QDir(test->path(u"aeroporti/LIRF"_s)).rename(u"Gone"_s, u"Star"_s));
         const auto shown = [&](const QString& option) {
             TestProgram::click(window, option);
             const QString count = TestProgram::control<QLabel>(window, u"lblTotProc"_s)->text();
@@ -183,22 +178,6 @@ private Q_SLOTS:
         QCOMPARE(test->beeper.beeps, 1);
     }
 
-    void draggingAThumbMovesTheChart() {
-        const auto test = viewer();
-        choose(*test, u"Option1(0)"_s, 1);
-        for (const bool across : {true, false}) {
-            auto* scroll =
-                TestProgram::control<QScrollBar>(test->viewWindow(), across ? u"HScroll1"_s : u"VScroll1"_s);
-            const QPoint further = across ? QPoint(120, 8) : QPoint(8, 120);
-            QTest::mousePress(scroll, Qt::LeftButton, {}, across ? QPoint(24, 8) : QPoint(8, 24));
-            QTest::mouseMove(scroll, further);
-            const QPoint place = TestProgram::control(test->viewWindow(), u"Image1"_s)->pos();
-            QVERIFY(across ? place.x() < -50 : place.y() < -50);
-            QTest::mouseRelease(scroll, Qt::LeftButton, {}, further);
-            QCOMPARE(across ? -place.x() : -place.y(), scroll->value());
-        }
-    }
-
     void everySelectedRowIsTheChosenChart() {
         const auto test = viewer();
         choose(*test, u"Option1(0)"_s, 1);
@@ -213,21 +192,6 @@ private Q_SLOTS:
         QTest::keyClick(list, Qt::Key_Up);
         TestProgram::control(test->viewWindow(), u"Text2"_s)->setFocus();
         QCOMPARE(list->currentIndex().row(), 2);
-    }
-
-    void damagedChartsLeaveThePreviousOne() {
-        const auto test = viewer();
-        choose(*test, u"Option1(0)"_s, 1);
-        test->write(u"aeroporti/LIRF/Sid/zeta.gif"_s, "this is no chart");
-        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 2);
-        QFile::remove(test->path(u"aeroporti/LIRF/Sid/zeta.gif"_s));
-        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 2);
-        QCOMPARE(test->boxes.shown.size(), 2);
-        QVERIFY(test->boxes.shown.first().text.contains(u"danneggiato"_s));
-        QVERIFY(test->boxes.shown.last().text.contains(u"non esiste"_s));
-        QCOMPARE(test->program().viewWindow().ChartName, u"KENN1"_s);
-        QCOMPARE(TestProgram::control(test->viewWindow(), u"Image1"_s)->width(), 800);
-        QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
     }
 
     void activationClearsTheFamilyOnly() {

@@ -45,6 +45,7 @@ void Form::unload() {
     forgetControls();
     old->detach();
     old->hide();
+    old->setEnabled(false); // keys and clicks may still be on their way to it
     old->deleteLater();
     windows_.unloaded(*this);
 }

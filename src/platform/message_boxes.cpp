@@ -1,6 +1,7 @@
 #include "platform/message_boxes.h"
 
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 namespace quarvel {
@@ -43,19 +44,23 @@ Answer answerOf(int button) {
 } // namespace
 
 Answer QtMessageBoxes::show(QWidget* parent, const MessageBox& box, const ButtonCaptions& captions) {
-    QMessageBox shown(iconOf(box.icon), box.title, box.text, buttonsOf(box.buttons), parent);
-    shown.setTextFormat(Qt::PlainText);
+    // The window may go while the box is open, and takes it along.
+    const QPointer<QMessageBox> shown(
+        new QMessageBox(iconOf(box.icon), box.title, box.text, buttonsOf(box.buttons), parent));
+    shown->setTextFormat(Qt::PlainText);
     // A box is answered, not minimised.
-    shown.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                         Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    shown->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     // Of a window above all others, a box must be so too: the window may be hidden, or lie below it.
     if (parent != nullptr && parent->windowFlags().testFlag(Qt::WindowStaysOnTopHint))
-        shown.setWindowFlag(Qt::WindowStaysOnTopHint);
-    nameButton(shown, QMessageBox::Ok, captions.ok);
-    nameButton(shown, QMessageBox::Cancel, captions.cancel);
-    nameButton(shown, QMessageBox::Yes, captions.yes);
-    nameButton(shown, QMessageBox::No, captions.no);
-    return answerOf(shown.exec());
+        shown->setWindowFlag(Qt::WindowStaysOnTopHint);
+    nameButton(*shown, QMessageBox::Ok, captions.ok);
+    nameButton(*shown, QMessageBox::Cancel, captions.cancel);
+    nameButton(*shown, QMessageBox::Yes, captions.yes);
+    nameButton(*shown, QMessageBox::No, captions.no);
+    const Answer answer = answerOf(shown->exec());
+    delete shown.data();
+    return answer;
 }
 
 } // namespace quarvel

@@ -117,8 +117,11 @@ int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, co
 QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
                                  const QWidget* widget) const {
     const char* picture = boxPicture(which);
-    return picture == nullptr ? QProxyStyle::standardIcon(which, option, widget)
-                              : QIcon(compiledPicture(picture));
+    if (picture == nullptr) return QProxyStyle::standardIcon(which, option, widget);
+    // The toolkit keeps what it has drawn of every icon: a new one for each box would go on filling that.
+    QIcon& icon = boxIcons_[which];
+    if (icon.isNull()) icon = QIcon(compiledPicture(picture));
+    return icon;
 }
 
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QIcon>
 #include <QProxyStyle>
+#include <map>
 
 class QStyleOptionSlider;
 
@@ -25,6 +27,8 @@ public:
 
 private:
     void drawScrollBar(const QStyleOptionSlider& bar, QPainter& painter, const QWidget* widget) const;
+
+    mutable std::map<StandardPixmap, QIcon> boxIcons_; ///< those that have been shown
 };
 
 } // namespace quarvel

@@ -83,7 +83,7 @@ private Q_SLOTS:
             const QByteArray path = QFile::encodeName(test->path(folder));
             ::chmod(path.constData(), 0311); // entered, but not listed
             {
-                const OrdinaryUser user(test->path({}));
+                const OrdinaryUser user;
                 use();
             }
             ::chmod(path.constData(), 0755);
@@ -119,7 +119,7 @@ private Q_SLOTS:
             QDir(test->path(u"aeroporti/LIRF/Sid"_s)).entryList(QDir::AllEntries | QDir::Hidden);
         {
             const auto limit = full ? std::make_unique<FileSizeLimit>(0) : nullptr;
-            const auto user = full ? nullptr : std::make_unique<OrdinaryUser>(test->path({}));
+            const auto user = full ? nullptr : std::make_unique<OrdinaryUser>();
             TestProgram::click(test->viewWindow(), u"cmdSave"_s);
             QVERIFY(lastTold(*test).contains(builtInText(u"0118"_s)) && lastTold(*test).contains(reason));
             QCOMPARE(route->toPlainText(), u"VIA"_s);

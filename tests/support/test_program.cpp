@@ -12,10 +12,12 @@ using namespace Qt::StringLiterals;
 
 namespace quarvel {
 
-TestProgram::TestProgram() {
+TestProgram::TestProgram(const QString& surroundings)
+    : surroundings_(surroundings.isEmpty() ? folder_.path() : surroundings) {
+    QFile::setPermissions(folder_.path(), QFile::Permissions(0x7711)); // other users may pass
+    QDir().mkpath(path(u"aeroporti"_s));
     for (const auto& file : {u"Italiano.lng"_s, u"English.lng"_s, u"LangSetting.ini"_s})
         QFile::copy(QStringLiteral(QUARVEL_DATA_FOLDER "/") + file, path(file));
-    QDir(folder_.path()).mkdir(u"aeroporti"_s);
 }
 
 void TestProgram::write(const QString& relative, const QByteArray& bytes) const {
@@ -50,7 +52,7 @@ void TestProgram::addChart(const QString& relative, QSize size) const {
 
 void TestProgram::start() {
     program_ = std::make_unique<Program>(
-        folder_.path(), Services{boxes, sounds, printer, urls, screen, end, beeper, icons}, *presents);
+        programFolder(), Services{*asks, sounds, printer, urls, screen, end, beeper, icons}, *presents);
     program_->show(WindowName::frmMain);
     if (!QTest::qWaitForWindowActive(mainWindow())) qFatal("the main window does not become active");
 }

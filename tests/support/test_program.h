@@ -15,10 +15,12 @@ namespace quarvel {
 /// reached them.
 class TestProgram {
 public:
-    /// A program folder with both shipped language files, Italian chosen, and an empty archive.
-    TestProgram();
+    /// A program folder with both shipped language files, Italian chosen, and an empty archive: in a folder
+    /// of its own, or in an empty one that is given.
+    explicit TestProgram(const QString& surroundings = {});
 
-    [[nodiscard]] QString path(const QString& relative) const { return folder_.path() + u'/' + relative; }
+    [[nodiscard]] QString programFolder() const { return surroundings_ + QStringLiteral("/Quarvel"); }
+    [[nodiscard]] QString path(const QString& relative) const { return programFolder() + u'/' + relative; }
     void write(const QString& relative, const QByteArray& bytes) const;
     [[nodiscard]] QByteArray read(const QString& relative) const;
 
@@ -29,6 +31,8 @@ public:
 
     /// Starts the program: its main window is shown and active.
     void start();
+    /// Takes the program away with its windows, as the end of its process would.
+    void stop() { program_.reset(); }
     [[nodiscard]] Program& program() { return *program_; }
 
     /// The windows; null while it is not loaded.
@@ -70,10 +74,13 @@ public:
     CountedBeeps beeper;
     NotedIcons icons;
     NotedPresenter presenter;
-    Presenter* presents = &presenter; ///< whoever presents airports in the program that start() makes
+    // Who does it in the program that start() makes.
+    Presenter* presents = &presenter;
+    MessageBoxes* asks = &boxes;
 
 private:
     QTemporaryDir folder_;
+    QString surroundings_;
     std::unique_ptr<Program> program_;
 };
 

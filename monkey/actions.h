@@ -8,6 +8,7 @@
 
 #include <QBasicTimer>
 #include <QPointer>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QThread>
 #include <thread>
@@ -59,8 +60,9 @@ protected:
                                            &Monkey::pressKey, &Monkey::useChart, &Monkey::useWindow,
                                            &Monkey::useRest};
         ++done_;
-        while (!(this->*(dice_.oneIn(2) ? &Monkey::click : dice_.pick(others)))()) {
-        } // some find nothing to do
+        while (!(this->*(dice_.oneIn(3)   ? &Monkey::lead
+                         : dice_.oneIn(2) ? &Monkey::click
+                                          : dice_.pick(others)))()) {} // some find nothing to do
         rules_.check();
         loop_ = outer;
         if (outer == 0) rules_.forget(); // nothing is under way any more that could save
@@ -105,19 +107,51 @@ private:
         return shown.isEmpty() ? nullptr : dice_.pick(shown);
     }
 
+    /// Clicks what leads on: a box's button, the first of the airports, their charts, one of these, their
+    /// notes.
+    bool lead() {
+        QWidget* const in = window();
+        if (in == nullptr || in->isMinimized()) return false;
+        static const QRegularExpression names(
+            u"^(txtNomeAeroporto|cmdGrafica|Option1.[02].|List1|Text2|cmdSave|Command4)$"_s);
+        QWidgetList controls = in->findChildren<QWidget*>(names);
+        if (isBlocked()) // the buttons of a box have no names
+            for (QWidget* button : in->findChildren<QPushButton*>()) controls.append(button);
+        controls.removeIf([in](const QWidget* each) {
+            return each->window() != in || !each->isVisible() || !each->isEnabled();
+        });
+        if (controls.isEmpty()) return false;
+        const QWidget& control = *dice_.pick(controls);
+        QRect place = reachable(control);
+        if (control.inherits("QListView")) place.setHeight(std::min(place.height(), 40)); // its first rows
+        if (place.isEmpty()) return false;
+        const QPoint at = control.mapTo(in, placeIn(place));
+        say(u"goes on by "_s + nameOf(control) + u" of "_s + nameOf(*in), {at.x(), at.y()});
+        const bool searches = nameOf(control) == u"txtNomeAeroporto";
+        if (!isBlocked()) in->activateWindow();
+        QTest::mouseClick(in->windowHandle(), Qt::LeftButton, {}, at);
+        if (searches) openAirport();
+        return true;
+    }
+
+    /// Types the beginning of an airport's name and clicks the first that is listed.
+    void openAirport() {
+        press(Key_A, Qt::ControlModifier);
+        for (const QChar letter : dice_.pick(scratchAirports).first(3)) press(letter.unicode(), {});
+        QWidget* const in = test_.mainWindow();
+        if (in == nullptr || isBlocked()) return;
+        const QWidget& list = *TestProgram::control(in, u"lstWords"_s);
+        if (list.isVisible())
+            QTest::mouseClick(in->windowHandle(), Qt::LeftButton, {}, list.mapTo(in, QPoint(20, 8)));
+    }
+
     bool click() {
         QWidget* const in = window();
         if (in == nullptr || in->isMinimized()) return false;
-        // What leads on as often as all the rest, and each name as often as the next, be it one of 39.
-        static const QRegularExpression leading(u"cmd[ESG]|lstW|Option1|List1|Command4|QPushB"_s);
-        std::array<QMap<QString, QWidgetList>, 2> controls{{{{u"window"_s, {in}}}, {}}};
+        QMap<QString, QWidgetList> names{{u"window"_s, {in}}}; // each as often as the next, be it one of 39
         for (QWidget* control : in->findChildren<QWidget*>())
-            if (control->window() == in && control->isVisible() &&
-                (control->isEnabled() || dice_.oneIn(10))) {
-                const QString name = nameOf(*control).section(u'(', 0, 0);
-                controls[name.contains(leading) ? 1 : 0][name].append(control);
-            }
-        const auto& names = controls[controls[1].isEmpty() || dice_.oneIn(2) ? 0 : 1];
+            if (control->window() == in && control->isVisible() && (control->isEnabled() || dice_.oneIn(10)))
+                names[nameOf(*control).section(u'(', 0, 0)].append(control);
         const QWidget& control = *dice_.pick(dice_.pick(names.values()));
         QRect place = reachable(control);
         if (control.inherits("QListView")) place.setHeight(std::min(place.height(), 80)); // its first rows

@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setKeyboardInputInterval(-1); // how fast letters come to a list makes no difference
     applyProgramLook(application);
-    const int actions = qEnvironmentVariable("MONKEY_ACTIONS", u"400"_s).toInt();
+    const int actions = qEnvironmentVariable("MONKEY_ACTIONS", u"2000"_s).toInt();
     const quint64 seed = qEnvironmentVariable("MONKEY_SEED", u"1"_s).toULongLong();
 
     const QTemporaryDir folder;

@@ -49,8 +49,8 @@ protected:
         // By a mnemonic a button is down for a tenth of a second. What is done then must not hang on the
         // machine: it has passed when the loop goes on, and no more is done before the button's click.
         downFor_ = isAnyButtonDown() ? downFor_ + 1 : 0;
-        if (downFor_ == 1) std::this_thread::sleep_for(101ms);
-        if (downFor_ == 1 || downFor_ == 2) return;
+        if (downFor_ == 1) std::this_thread::sleep_for(120ms);
+        if (downFor_ == 1 || downFor_ == 2) return; // a button that stays down stops nothing
         // In the loop of a message box the user goes on as ever, in a language pass at one control of twenty.
         const int now = QThread::currentThread()->loopLevel();
         if (now == loop_ && !dice_.oneIn(20)) return;
@@ -77,6 +77,11 @@ private:
     /// The part of a widget that lies within its window; nothing of it may be left.
     static QRect reachable(const QWidget& widget) {
         return widget.rect() & QRect(widget.mapFrom(widget.window(), QPoint(0, 0)), widget.window()->size());
+    }
+
+    /// A menu that is just coming has no size yet.
+    static bool isWithin(const QWidget& window, QPoint at) {
+        return window.windowHandle() != nullptr && QRect({}, window.windowHandle()->size()).contains(at);
     }
 
     static bool isBlocked() { return QApplication::activeModalWidget() != nullptr; }
@@ -126,6 +131,7 @@ private:
         if (control.inherits("QListView")) place.setHeight(std::min(place.height(), 40)); // its first rows
         if (place.isEmpty()) return false;
         const QPoint at = control.mapTo(in, placeIn(place));
+        if (!isWithin(*in, at)) return false;
         say(u"goes on by "_s + nameOf(control) + u" of "_s + nameOf(*in), {at.x(), at.y()});
         const bool searches = nameOf(control) == u"txtNomeAeroporto";
         if (!isBlocked()) in->activateWindow();
@@ -157,6 +163,7 @@ private:
         if (control.inherits("QListView")) place.setHeight(std::min(place.height(), 80)); // its first rows
         if (place.isEmpty()) return false;
         const QPoint at = control.mapTo(in, placeIn(place));
+        if (!isWithin(*in, at)) return false;
         const int how = dice_.below(20);
         say(u"clicks "_s + nameOf(control) + u" of "_s + nameOf(*in), {at.x(), at.y(), how});
         if (!isBlocked()) in->activateWindow(); // as a window manager does

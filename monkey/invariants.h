@@ -172,10 +172,10 @@ private:
         const auto target = targets_.find(path);
         QFile file(QFile::decodeName(path));
         if (target == targets_.end()) fail(u"Changed, though nobody saved it: "_s + file.fileName());
-        const bool whole = target->second == nullptr
-                               ? QFileInfo(file).isDir()
-                               : file.open(QIODevice::ReadOnly) && target->second(file.readAll());
-        if (!whole) fail(u"Neither old nor new: "_s + file.fileName());
+        const bool isFolder = target->second == nullptr;
+        if (isFolder ? !QFileInfo(file).isDir()
+                     : !file.open(QIODevice::ReadOnly) || !target->second(file.readAll()))
+            fail(u"Neither old nor new: "_s + file.fileName());
     }
 
     inline static QByteArrayList lastWords; ///< the run, and what was done last

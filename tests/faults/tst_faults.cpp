@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTimer>
 #include <memory>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -256,6 +257,13 @@ private Q_SLOTS:
         test->start();
         QVERIFY(TestProgram::control<QAbstractButton>(test->mainWindow(), u"cmdElabora"_s)->text() !=
                 u"OUT"_s);
+    }
+
+    void aWindowThatGoesTakesItsMessageAlong() {
+        auto* window = new QWidget;
+        QTimer::singleShot(0, window, [window] { delete window; });
+        const MessageBox question{u"?"_s, {}, Buttons::YesNo, BoxIcon::None};
+        QVERIFY(QtMessageBoxes().show(window, question, {}) == Answer::No);
     }
 
     void whatMemoryDoesNotHoldIsToldAsTooLarge() {

@@ -11,6 +11,12 @@ bool hasDataFile(const ArchivePaths& paths, const QString& name) {
     return holdsExactly(paths.generalFolder(name), name + u".txt"_s);
 }
 
+Result<void> checkLookedInto(const ArchivePaths& paths, const QString& name) {
+    const Result<QStringList> files = listFiles(paths.generalFolder(name));
+    if (files || files.failure().fault == Fault::NotFound) return {};
+    return files.failure();
+}
+
 bool hasPicture(const ArchivePaths& paths, const QString& name, const QString& icao) {
     const QString folder = paths.generalFolder(name);
     const QString code = trimBlanks(icao);

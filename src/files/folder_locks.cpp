@@ -10,7 +10,7 @@
 namespace quarvel {
 namespace {
 
-constexpr int longestWaitMilliseconds = 1000;
+constexpr int longestWaitMilliseconds = 500;
 constexpr unsigned pauseMicroseconds = 2000;
 
 /// False when another program still holds the lock at the deadline.

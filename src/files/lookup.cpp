@@ -91,7 +91,8 @@ bool holdsExactly(const QString& folder, const QString& name) {
 
 Result<QStringList> listFiles(const QString& folder) {
     const auto [entries, error] = readNames(folder);
-    if (error == ENOENT || error == ENOTDIR) return Failure{Fault::NotFound, folder, {}};
+    const bool none = error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG;
+    if (none) return Failure{Fault::NotFound, folder, {}};
     if (error != 0) return Failure{Fault::Unreadable, folder, {}};
     QStringList names;
     for (const QString& name : entries)

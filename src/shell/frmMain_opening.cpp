@@ -78,10 +78,14 @@ void frmMain::OpenAirport(const Before& before) {
         return;
     }
     state_.CurrentAirport = name;
-    if (hasDataFile(paths_, name))
+    if (hasDataFile(paths_, name)) {
         showAirport(name, before);
-    else
+    } else if (const Result<void> looked = checkLookedInto(paths_, name); !looked) {
+        putBack(before);
+        prompts_.tell(*this, Task::ReadRecord, looked.failure());
+    } else {
         offerNewAirport(name, before);
+    }
 }
 
 void frmMain::offerNewAirport(const QString& name, const Before& before) {

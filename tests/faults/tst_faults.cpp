@@ -80,9 +80,9 @@ private Q_SLOTS:
     void aFolderThatCannotBeReadIsTold() {
         const auto test = started();
         QWidget* window = test->mainWindow();
-        const auto closed = [&](const QString& folder, const std::function<void()>& use) {
+        const auto closed = [&](const QString& folder, const std::function<void()>& use, mode_t mode = 0311) {
             const QByteArray path = QFile::encodeName(test->path(folder));
-            ::chmod(path.constData(), 0311); // entered, but not listed
+            ::chmod(path.constData(), mode); // mostly it may be entered, but not listed
             {
                 const OrdinaryUser user;
                 use();
@@ -93,6 +93,15 @@ private Q_SLOTS:
             test->type(u"LI"_s);
             QVERIFY(says(window, u"lstWords"_s, test->path(u"aeroporti"_s)));
         });
+        for (const auto& folder : {u"aeroporti/LIRF"_s, u"aeroporti/LIRF/Aeroporto"_s}) {
+            enter(*test, u"LIRF"_s);
+            closed(
+                folder, [&] { TestProgram::click(window, u"cmdElabora"_s); }, 0);
+            QVERIFY(lastTold(*test).contains(builtInText(u"0132"_s).section(u'\n', 0, 0)));
+            QCOMPARE(test->program().state().CurrentAirport,
+                     QString()); // neither shown nor offered as a new one
+            test->boxes.shown.clear();
+        }
         enter(*test, {});
         test->openViewer(u"LIRF"_s);
         closed(u"aeroporti/LIRF/Sid"_s, [&] { TestProgram::click(test->viewWindow(), u"Option1(0)"_s); });

@@ -16,7 +16,11 @@ bool leavesFolder(QChar character) {
     return character == u'/' || character == u'\\' || character.category() == QChar::Other_Control;
 }
 
-bool refused(QChar character) { return leavesFolder(character) || u"*?\"<>|:"_s.contains(character); }
+/// The replacement character stands for bytes of a name on the disk that are no text: by it nothing is found.
+bool refused(QChar character) {
+    return leavesFolder(character) || character == QChar::ReplacementCharacter ||
+           u"*?\"<>|:"_s.contains(character);
+}
 
 } // namespace
 

@@ -201,7 +201,7 @@ private Q_SLOTS:
     void aNameThatLeadsElsewhereIsRefused_data() {
         QTest::addColumn<QString>("name");
         for (const auto& name : {u".."_s, u"."_s, u"../LIRF"_s, u"LIRF/../LIRF"_s, u"..\\LIRF"_s, u"/etc"_s,
-                                 u"C:LIRF"_s, u"LI*"_s})
+                                 u"C:LIRF"_s, u"LI*"_s, u"FORL\uFFFD"_s})
             QTest::newRow(qPrintable(name)) << name;
     }
     void aNameThatLeadsElsewhereIsRefused() {

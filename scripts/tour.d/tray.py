@@ -1,9 +1,11 @@
 """Notification areas: one that takes icons' windows in, and one that is told of icons over the session bus."""
 
+import itertools
 import re
 import select
 import subprocess
 import sys
+import time
 from pathlib import Path
 
 from accessible import Box, expect
@@ -47,14 +49,24 @@ class Tray:
 
     def click(self, button=1):
         """A click on the one icon."""
-        self.expect_icons(1)
-        box = self.icons()[0]
-        click_at(box.x + box.width / 2, box.y + box.height / 2, button)
+        click_at(*self._middle(), button)
 
     def point_at(self):
+        move_to(*self._middle())
+
+    def _middle(self):
+        """Of the one icon, once it stands still: the area moves and resizes a fresh one for a while."""
         self.expect_icons(1)
+        expect("moves of the icon", self._moves, 0)
         box = self.icons()[0]
-        move_to(box.x + box.width / 2, box.y + box.height / 2)
+        return box.x + box.width / 2, box.y + box.height / 2
+
+    def _moves(self):
+        places = []
+        for _ in range(4):
+            places.append([(box.x, box.y, box.width, box.height) for box in self.icons()])
+            time.sleep(0.05)
+        return sum(before != after for before, after in itertools.pairwise(places))
 
 
 class BusTray:

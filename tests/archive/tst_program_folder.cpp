@@ -80,29 +80,23 @@ private Q_SLOTS:
         put(folder_.starter + u"/aeroporti/LIRF/Sid/kenn1.gif"_s, QByteArray(chartBytes, 'c'));
     }
 
-    void chosen_data() {
-        QTest::addColumn<bool>("archiveBeside");
-        QTest::addColumn<bool>("starterInstalled");
-        QTest::addColumn<bool>("writable");
-        QTest::addColumn<bool>("ownFolder");
-        QTest::newRow("an archive beside it makes it portable, even on a read-only disk")
-            << true << false << false << true;
-        QTest::newRow("an archive beside it goes before a starter") << true << true << true << true;
-        QTest::newRow("installed, the user's data folder") << false << true << false << false;
-        QTest::newRow("installed, and started by the administrator") << false << true << true << false;
-        QTest::newRow("where nothing can be written, the user's data folder")
-            << false << false << false << false;
-        QTest::newRow("neither: its own folder") << false << false << true << true;
-    }
     void chosen() {
-        QFETCH(bool, archiveBeside);
-        QFETCH(bool, starterInstalled);
-        QFETCH(bool, writable);
-        QFETCH(bool, ownFolder);
-        const ProgramFolder chosen =
-            chooseProgramFolder({u"/opt/q/bin"_s, u"/h/share"_s, archiveBeside, starterInstalled, writable});
-        QCOMPARE(chosen.path, ownFolder ? u"/opt/q/bin"_s : u"/h/share/quarvel"_s);
-        QCOMPARE(chosen.starter, ownFolder ? QString() : u"/opt/q/share/quarvel/starter"_s);
+        struct Case {
+            bool archiveBeside, starterInstalled, writable, ownFolder;
+        };
+        for (const auto& [beside, installed, writable, own] : {
+                 Case{true, false, false, true}, // an archive beside it: portable, also on a read-only disk
+                 {true, true, true, true},
+                 {false, true, false, false}, // installed
+                 {false, true, true, false},  // and started by the administrator
+                 {false, false, false, false},
+                 {false, false, true, true} // neither, but its own folder can be written
+             }) {
+            const auto chosen =
+                chooseProgramFolder({u"/opt/q/bin"_s, u"/h/share"_s, beside, installed, writable});
+            QCOMPARE(chosen.path, own ? u"/opt/q/bin"_s : u"/h/share/quarvel"_s);
+            QCOMPARE(chosen.starter, own ? QString() : u"/opt/q/share/quarvel/starter"_s);
+        }
     }
 
     void surroundingsAreLookedAt() {
@@ -123,15 +117,15 @@ private Q_SLOTS:
     }
 
     void firstStartLaysOutEverythingForTheUserToWrite() {
-        for (const QString& name :
-             starterTree_) // the folders after what is in them: nothing is made in them here
-            ::chmod(QFile::encodeName(folder_.starter + u'/' + name).constData(),
-                    QFileInfo(folder_.starter + u'/' + name).isDir() ? 0555 : 0444);
+        const auto starterMode = [this](mode_t mode) {
+            for (const QString& name : starterTree_)
+                ::chmod(QFile::encodeName(folder_.starter + u'/' + name).constData(), mode);
+        };
+        starterMode(0555);
         const mode_t mask = ::umask(027);
         const Result<void> result = layOutProgramFolder(folder_);
         ::umask(mask);
-        for (const QString& name : starterTree_) // so that it can be removed
-            ::chmod(QFile::encodeName(folder_.starter + u'/' + name).constData(), 0755);
+        starterMode(0755); // so that it can be removed
         QVERIFY(result);
         QCOMPARE(treeOf(folder_.path), starterTree_);
         QCOMPARE(bytesOf(laid(u"English.lng"_s)), "shipped English.lng");
@@ -157,33 +151,23 @@ private Q_SLOTS:
 
     void neverTouchesWhatHasTheName_data() {
         QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("kind");
-        for (const char* kind : {"file", "folder", "link", "link to nothing"}) {
-            QTest::addRow("a language file's name: %s", kind)
-                << u"English.lng"_s << QString::fromLatin1(kind);
-            QTest::addRow("the archive's name: %s", kind) << u"aeroporti"_s << QString::fromLatin1(kind);
-            QTest::addRow("in other letters: %s", kind) << u"AEROPORTI"_s << QString::fromLatin1(kind);
-        }
+        QTest::newRow("a language file's name") << u"English.lng"_s;
+        QTest::newRow("the archive's name") << u"aeroporti"_s;
+        QTest::newRow("in other letters") << u"AEROPORTI"_s;
     }
     void neverTouchesWhatHasTheName() {
         QFETCH(QString, name);
-        QFETCH(QString, kind);
-        QVERIFY(QDir().mkpath(folder_.path) && QDir().mkpath(at(u"target"_s)));
-        if (kind == u"file") put(laid(name), "mine");
-        if (kind == u"folder") QVERIFY(QDir().mkdir(laid(name)));
-        if (kind == u"link") QVERIFY(QFile::link(at(u"target"_s), laid(name)));
-        if (kind == u"link to nothing") QVERIFY(QFile::link(at(u"nothing"_s), laid(name)));
-        struct stat before {};
-        QCOMPARE(::lstat(QFile::encodeName(laid(name)).constData(), &before), 0);
-        QVERIFY(layOutProgramFolder(folder_));
-        struct stat after {};
-        QCOMPARE(::lstat(QFile::encodeName(laid(name)).constData(), &after), 0);
-        QCOMPARE(after.st_ino, before.st_ino);
-        QCOMPARE(after.st_mtim.tv_nsec, before.st_mtim.tv_nsec);
-        QVERIFY(treeOf(at(u"target"_s)).isEmpty() && !QFileInfo::exists(at(u"nothing"_s)));
-        QStringList kept = treeOf(folder_.path).filter(name, Qt::CaseInsensitive);
-        QCOMPARE(kept, QStringList{name});
-        QVERIFY(QFileInfo(laid(u"Italiano.lng"_s)).isFile()); // and the rest comes
+        for (const QString& target : {u"file"_s, u"folder"_s, u"nothing"_s}) {
+            QVERIFY(QDir(folder_.path).removeRecursively() && QDir().mkpath(folder_.path));
+            put(at(u"file"_s), "mine");
+            QVERIFY(QDir().mkpath(at(u"folder"_s)) && QFile::link(at(target), laid(name)));
+            QVERIFY(layOutProgramFolder(folder_));
+            QCOMPARE(QFile::symLinkTarget(laid(name)), at(target));
+            QCOMPARE(bytesOf(at(u"file"_s)), "mine");
+            QVERIFY(treeOf(at(u"folder"_s)).isEmpty() && !QFileInfo::exists(at(u"nothing"_s)));
+            QCOMPARE(treeOf(folder_.path).filter(name, Qt::CaseInsensitive), QStringList{name});
+            QVERIFY(QFileInfo(laid(u"Italiano.lng"_s)).isFile()); // and the rest comes
+        }
     }
 
     void fullDiskLeavesWholeFilesAndNoArchive() {
@@ -230,26 +214,18 @@ private Q_SLOTS:
         }
     }
 
-    void failuresNameThePlace_data() {
-        QTest::addColumn<QString>("spoiled");
-        QTest::addColumn<Fault>("fault");
-        QTest::addColumn<QString>("told");
-        QTest::newRow("a home that cannot be written") << u"home"_s << Fault::Unwritable << u"home"_s;
-        QTest::newRow("a folder's name that is taken")
-            << u"home/share/quarvel"_s << Fault::Unwritable << u"home/share/quarvel"_s;
-        QTest::newRow("a starter that is missing")
-            << u"usr/share/quarvel/starter"_s << Fault::NotFound << u"usr/share/quarvel/starter"_s;
-    }
     /// A file where a folder should be refuses the administrator too.
     void failuresNameThePlace() {
-        QFETCH(QString, spoiled);
-        QFETCH(Fault, fault);
-        QFETCH(QString, told);
-        QVERIFY(QDir().mkpath(at(u"home/share"_s)) && QDir(at(spoiled)).removeRecursively());
-        put(at(spoiled));
-        const Result<void> result = layOutProgramFolder(folder_);
-        QVERIFY(!result && result.failure().fault == fault);
-        QCOMPARE(result.failure().path, at(told));
+        for (const auto& [spoiled, fault] : {std::pair(u"usr/share/quarvel/starter"_s, Fault::NotFound),
+                                             {u"home/share/quarvel"_s, Fault::Unwritable},
+                                             {u"home"_s, Fault::Unwritable}}) {
+            init();
+            QVERIFY(QDir().mkpath(at(u"home/share"_s)) && QDir(at(spoiled)).removeRecursively());
+            put(at(spoiled));
+            const Result<void> result = layOutProgramFolder(folder_);
+            QVERIFY(!result && result.failure().fault == fault);
+            QCOMPARE(result.failure().path, at(spoiled));
+        }
     }
 
     void anArchiveWithoutAStarterIsComplete() {

@@ -59,43 +59,26 @@ private Q_SLOTS:
         QVERIFY(QFile::remove(test->path(u"aeroporti/LIRF/Star/arrivo.gif"_s)));
         TestProgram::click(window, u"Option1(1)"_s);
         QVERIFY(hint(u"List1"_s).contains(test->path(u"aeroporti/LIRF/Star"_s)));
-        const QString unused = TestProgram::control(window, u"Text1"_s)->accessibleName();
-        QVERIFY(!unused.isEmpty()); // though its frame has no caption
         choose(*test, u"Option1(0)"_s, 1);
         QCOMPARE(hint(u"List1"_s) + hint(u"Picture1"_s), QString());
-        QVERIFY(TestProgram::control(window, u"Text1"_s)->accessibleName() != unused);
-        const auto chartName = [&] {
-            return TestProgram::control(test->viewWindow(), u"Picture1"_s)->accessibleName();
-        };
-        QCOMPARE(chartName(), u"KENN1"_s);
-        TestProgram::click(window, u"Command3"_s);
-        test->openViewer(u"LIRF"_s); // without a chart again
-        QVERIFY(!chartName().isEmpty() && chartName() != u"KENN1"_s);
+        QCOMPARE(TestProgram::control(window, u"Picture1"_s)->accessibleName(), u"KENN1"_s);
     }
 
     void familiesFillListCountAndFramesUnlessMissing() {
         const auto test = viewer();
         QWidget* window = test->viewWindow();
-        QCOMPARE(window->size(), QSize(752, 592));
         QVERIFY(!TestProgram::control(window, u"frame6"_s)->isEnabled());
-        QVERIFY(QDir(test->path(u"aeroporti/LIRF"_s)).rename(u"Star"_s, u"Gone"_s));
-        TestProgram::click(window, u"Option1(1)"_s);
-        QVERIFY(test->boxes.shown.last().text.contains(u"/Star"_s));
-        QVERIFY(TestProgram::control(window, u"frame6"_s)->isEnabled()); // the way back is open all the same
-        QVERIFY(QDir(test->path(u"aeroporti/LIRF"_s)).rename(u"Gone"_s, u"Star"_s));
         const auto shown = [&](const QString& option) {
             TestProgram::click(window, option);
             const QString count = TestProgram::control<QLabel>(window, u"lblTotProc"_s)->text();
-            return TestProgram::rows(window, u"List1"_s) +
-                   QStringList{count, title(*test, u"Frame1"_s), title(*test, u"Frame3"_s)};
+            return (TestProgram::rows(window, u"List1"_s) +
+                    QStringList{count, title(*test, u"Frame1"_s), title(*test, u"Frame3"_s)})
+                .join(u'|');
         };
         QCOMPARE(shown(u"Option1(0)"_s),
-                 QStringList({u"AB"_s, u"KENN1"_s, u"ZETA"_s, u"PARTENZE IN ARCHIVIO: 3"_s, u"ROTTA"_s,
-                              u"ISTRUZIONI DI DECOLLO"_s}));
-        QCOMPARE(shown(u"Option1(1)"_s), QStringList({u"ARRIVO"_s, u"ARRIVI IN ARCHIVIO: 1"_s,
-                                                      u"GLI ARRIVI NON HANNO NOTE"_s, QString()}));
-        QCOMPARE(shown(u"Option1(2)"_s), QStringList({u"ILS16"_s, u"AVVICINAMENTI IN ARCHIVIO: 1"_s,
-                                                      u"MANCATO AVVICINAMENTO"_s, QString()}));
+                 u"AB|KENN1|ZETA|PARTENZE IN ARCHIVIO: 3|ROTTA|ISTRUZIONI DI DECOLLO"_s);
+        QCOMPARE(shown(u"Option1(1)"_s), u"ARRIVO|ARRIVI IN ARCHIVIO: 1|GLI ARRIVI NON HANNO NOTE|"_s);
+        QCOMPARE(shown(u"Option1(2)"_s), u"ILS16|AVVICINAMENTI IN ARCHIVIO: 1|MANCATO AVVICINAMENTO|"_s);
         QVERIFY(TestProgram::control(window, u"frame6"_s)->isEnabled());
         QVERIFY(!TestProgram::control(window, u"Command4"_s)->isEnabled());
         QDir(test->path(u"aeroporti/LIRF/Star"_s)).removeRecursively();
@@ -109,8 +92,6 @@ private Q_SLOTS:
         choose(*test, u"Option1(0)"_s, 1);
         QWidget* chart = TestProgram::control(test->viewWindow(), u"Image1"_s);
         QCOMPARE(chart->geometry(), QRect(-1, -1, 800, 1100));
-        auto* across = TestProgram::control<QScrollBar>(test->viewWindow(), u"HScroll1"_s);
-        QCOMPARE(std::make_pair(across->minimum(), across->maximum()), std::make_pair(1, 794));
         QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
         QCOMPARE(notes(*test, u"Text3"_s), QString());
         QVERIFY(!TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text1"_s)->isReadOnly());
@@ -160,7 +141,6 @@ private Q_SLOTS:
             ->insertPlainText(u"\u2192 OST"_s);
         TestProgram::click(test->viewWindow(), u"cmdSave"_s);
         QVERIFY(test->boxes.shown.last().text.contains(u"«\u2192»"_s));
-        QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ROTTA_KENN1.txt"_s), "\"VIA OST\r\nDRITTO\"\r\n");
         QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Sid/ALTITUDINE_KENN1.txt"_s)));
         QCOMPARE(notes(*test, u"Text1"_s), u"\u2192 OST"_s);
     }
@@ -170,8 +150,11 @@ private Q_SLOTS:
         choose(*test, u"Option1(0)"_s, 1);
         QWidget* chart = TestProgram::control(test->viewWindow(), u"Image1"_s);
         auto* across = TestProgram::control<QScrollBar>(test->viewWindow(), u"HScroll1"_s);
+        QTest::mousePress(across, Qt::LeftButton, {}, {24, 8});
+        QTest::mouseMove(across, {120, 8}); // the thumb, still held
+        QVERIFY(chart->x() < -50 && chart->x() == -across->value());
+        QTest::mouseRelease(across, Qt::LeftButton, {}, {120, 8});
         across->setValue(300);
-        QCOMPARE(chart->x(), -300);
         // 600 / 15 / 4 = 10 further, 300 / 60 = 5.
         QTest::mouseClick(chart, Qt::LeftButton, {}, QPoint(600, 300));
         QCOMPARE(chart->geometry(), QRect(-310, -6, 1000, 1375));
@@ -181,22 +164,6 @@ private Q_SLOTS:
         QCOMPARE(test->beeper.beeps, 0);
         TestProgram::click(test->viewWindow(), u"Command1"_s);
         QCOMPARE(test->beeper.beeps, 1);
-    }
-
-    void draggingAThumbMovesTheChart() {
-        const auto test = viewer();
-        choose(*test, u"Option1(0)"_s, 1);
-        for (const bool across : {true, false}) {
-            auto* scroll =
-                TestProgram::control<QScrollBar>(test->viewWindow(), across ? u"HScroll1"_s : u"VScroll1"_s);
-            const QPoint further = across ? QPoint(120, 8) : QPoint(8, 120);
-            QTest::mousePress(scroll, Qt::LeftButton, {}, across ? QPoint(24, 8) : QPoint(8, 24));
-            QTest::mouseMove(scroll, further);
-            const QPoint place = TestProgram::control(test->viewWindow(), u"Image1"_s)->pos();
-            QVERIFY(across ? place.x() < -50 : place.y() < -50);
-            QTest::mouseRelease(scroll, Qt::LeftButton, {}, further);
-            QCOMPARE(across ? -place.x() : -place.y(), scroll->value());
-        }
     }
 
     void everySelectedRowIsTheChosenChart() {
@@ -238,7 +205,6 @@ private Q_SLOTS:
         QCoreApplication::sendEvent(test->viewWindow(), &comeBack);
         QVERIFY(!TestProgram::control<QAbstractButton>(test->viewWindow(), u"Option1(0)"_s)->isChecked());
         QVERIFY(test->viewWindow()->windowTitle().startsWith(u"Quarvel - CARTINE DI LIRF  "_s));
-        QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s).size(), 3);
         QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
         // The same family is a new choice now, and reads the folder afresh.
         test->program().state().CurrentAirport = u"LIRF"_s;

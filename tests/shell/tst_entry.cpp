@@ -13,14 +13,14 @@ class EntryTest : public QObject {
 
 private:
     static QLineEdit* field(const TestProgram& test, int position) {
-        return TestProgram::control<QLineEdit>(test.mainWindow(), u"txtRwy(%1)"_s.arg(position));
+        return test.control<QLineEdit>(u"txtRwy(%1)"_s.arg(position));
     }
     /// A program with the new airport NEW in its window.
     static std::unique_ptr<TestProgram> newAirport() {
         auto test = std::make_unique<TestProgram>();
         test->start();
         test->type(u"new"_s);
-        TestProgram::click(test->mainWindow(), u"cmdElabora"_s);
+        test->click(u"cmdElabora"_s);
         test->boxes.shown.clear();
         return test;
     }
@@ -59,13 +59,13 @@ private Q_SLOTS:
     void savingWithoutCodeOrConsentWritesNothing() {
         const auto test = newAirport();
         enter(*test, 20, u"ILS"_s);
-        TestProgram::click(test->mainWindow(), u"cmdSave"_s);
+        test->click(u"cmdSave"_s);
         QCOMPARE(test->boxes.shown.size(), 1);
         QVERIFY(!field(*test, 20)->isReadOnly() && field(*test, IcaoCode)->hasFocus());
         enter(*test, IcaoCode, u"LIRF"_s);
         test->boxes.answers = {Answer::Cancel};
         test->boxes.meanwhile = [&] { QVERIFY(field(*test, 20)->isReadOnly()); };
-        TestProgram::click(test->mainWindow(), u"cmdSave"_s);
+        test->click(u"cmdSave"_s);
         QVERIFY(!field(*test, 20)->isReadOnly() && field(*test, IcaoCode)->hasFocus());
         QVERIFY(!test->end.ended && QDir(test->path(u"aeroporti/NEW/Aeroporto"_s)).isEmpty());
     }
@@ -74,15 +74,15 @@ private Q_SLOTS:
         const auto test = newAirport();
         enter(*test, IcaoCode, u"lirfx"_s); // four letters can be typed
         enter(*test, Latitude, u"n45,30"_s);
-        TestProgram::click(test->mainWindow(), u"cmdSave"_s);
+        test->click(u"cmdSave"_s);
         QCOMPARE(test->boxes.shown.size(), 2); // the question, and that it is done
         QVERIFY(test->end.ended);
         QCOMPARE(test->program().state().CurrentIcao, u"LIRF"_s);
         test->addChart(u"aeroporti/NEW/Aeroporto/LIRF.gif"_s, {10, 10});
         test->start();
         test->type(u"ne"_s);
-        QCOMPARE(TestProgram::rows(test->mainWindow(), u"lstWords"_s), QStringList(u"[NEW]"_s));
-        TestProgram::clickRow(test->mainWindow(), u"lstWords"_s, 0);
+        QCOMPARE(test->rows(u"lstWords"_s), QStringList(u"[NEW]"_s));
+        test->clickRow(u"lstWords"_s, 0);
         QCOMPARE(field(*test, Latitude)->text(), u"N45,30"_s);
     }
 
@@ -90,12 +90,12 @@ private Q_SLOTS:
         const auto test = newAirport();
         enter(*test, IcaoCode, u"LIRF"_s);
         QDir(test->path(u"aeroporti/NEW"_s)).rmdir(u"Aeroporto"_s);
-        TestProgram::click(test->mainWindow(), u"cmdSave"_s);
+        test->click(u"cmdSave"_s);
         QVERIFY(test->boxes.shown.last().text.contains(u"non è stato salvato"_s));
-        QVERIFY(!test->end.ended && TestProgram::control(test->mainWindow(), u"Frame3"_s)->isVisible());
+        QVERIFY(!test->end.ended && test->control(u"Frame3"_s)->isVisible());
         QVERIFY(!field(*test, 20)->isReadOnly());
         QDir(test->path(u"aeroporti/NEW"_s)).mkdir(u"Aeroporto"_s);
-        TestProgram::click(test->mainWindow(), u"cmdSave"_s);
+        test->click(u"cmdSave"_s);
         QVERIFY(test->end.ended && QFile::exists(test->path(u"aeroporti/NEW/Aeroporto/NEW.txt"_s)));
     }
 };

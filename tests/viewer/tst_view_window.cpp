@@ -18,7 +18,7 @@ class ViewWindowTest : public QObject {
 
 private:
     static QString notes(const TestProgram& test, const QString& box) {
-        return TestProgram::control<QPlainTextEdit>(test.viewWindow(), box)->toPlainText();
+        return test.control<QPlainTextEdit>(box)->toPlainText();
     }
     static QString title(const TestProgram& test, const QString& frame) {
         for (const Control* control : static_cast<const FormWidget*>(test.viewWindow())->controls())
@@ -42,36 +42,34 @@ private:
         return test;
     }
     static void choose(const TestProgram& test, const QString& option, int row) {
-        TestProgram::click(test.viewWindow(), option);
-        TestProgram::clickRow(test.viewWindow(), u"List1"_s, row);
+        test.click(option);
+        test.clickRow(u"List1"_s, row);
     }
 
 private Q_SLOTS:
     void whereThereIsNothingTheViewerSaysWhatToDo() {
         const auto test = viewer();
-        QWidget* window = test->viewWindow();
         const auto hint = [&](const QString& control) {
-            for (const QLabel* label : TestProgram::control(window, control)->findChildren<QLabel*>())
+            for (const QLabel* label : test->control(control)->findChildren<QLabel*>())
                 if (label->isVisible()) return label->text().remove(QChar(0x200B));
             return QString();
         };
         QVERIFY(hint(u"List1"_s).contains(u"SID, STAR"_s) && hint(u"Picture1"_s).contains(u"elenco"_s));
         QVERIFY(QFile::remove(test->path(u"aeroporti/LIRF/Star/arrivo.gif"_s)));
-        TestProgram::click(window, u"Option1(1)"_s);
+        test->click(u"Option1(1)"_s);
         QVERIFY(hint(u"List1"_s).contains(test->path(u"aeroporti/LIRF/Star"_s)));
         choose(*test, u"Option1(0)"_s, 1);
         QCOMPARE(hint(u"List1"_s) + hint(u"Picture1"_s), QString());
-        QCOMPARE(TestProgram::control(window, u"Picture1"_s)->accessibleName(), u"KENN1"_s);
+        QCOMPARE(test->control(u"Picture1"_s)->accessibleName(), u"KENN1"_s);
     }
 
     void familiesFillListCountAndFramesUnlessMissing() {
         const auto test = viewer();
-        QWidget* window = test->viewWindow();
-        QVERIFY(!TestProgram::control(window, u"frame6"_s)->isEnabled());
+        QVERIFY(!test->control(u"frame6"_s)->isEnabled());
         const auto shown = [&](const QString& option) {
-            TestProgram::click(window, option);
-            const QString count = TestProgram::control<QLabel>(window, u"lblTotProc"_s)->text();
-            return (TestProgram::rows(window, u"List1"_s) +
+            test->click(option);
+            const QString count = test->control<QLabel>(u"lblTotProc"_s)->text();
+            return (test->rows(u"List1"_s) +
                     QStringList{count, title(*test, u"Frame1"_s), title(*test, u"Frame3"_s)})
                 .join(u'|');
         };
@@ -79,23 +77,22 @@ private Q_SLOTS:
                  u"AB|KENN1|ZETA|PARTENZE IN ARCHIVIO: 3|ROTTA|ISTRUZIONI DI DECOLLO"_s);
         QCOMPARE(shown(u"Option1(1)"_s), u"ARRIVO|ARRIVI IN ARCHIVIO: 1|GLI ARRIVI NON HANNO NOTE|"_s);
         QCOMPARE(shown(u"Option1(2)"_s), u"ILS16|AVVICINAMENTI IN ARCHIVIO: 1|MANCATO AVVICINAMENTO|"_s);
-        QVERIFY(TestProgram::control(window, u"frame6"_s)->isEnabled());
-        QVERIFY(!TestProgram::control(window, u"Command4"_s)->isEnabled());
+        QVERIFY(test->control(u"frame6"_s)->isEnabled());
+        QVERIFY(!test->control(u"Command4"_s)->isEnabled());
         QDir(test->path(u"aeroporti/LIRF/Star"_s)).removeRecursively();
-        TestProgram::click(window, u"Option1(1)"_s);
+        test->click(u"Option1(1)"_s);
         QVERIFY(test->boxes.shown.last().text.contains(u"/Star"_s));
-        QCOMPARE(TestProgram::rows(window, u"List1"_s), QStringList(u"ILS16"_s));
+        QCOMPARE(test->rows(u"List1"_s), QStringList(u"ILS16"_s));
     }
 
     void choosingAChartShowsItAndItsNotes() {
         const auto test = viewer();
         choose(*test, u"Option1(0)"_s, 1);
-        QWidget* chart = TestProgram::control(test->viewWindow(), u"Image1"_s);
-        QCOMPARE(chart->geometry(), QRect(-1, -1, 800, 1100));
+        QCOMPARE(test->control(u"Image1"_s)->geometry(), QRect(-1, -1, 800, 1100));
         QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
         QCOMPARE(notes(*test, u"Text3"_s), QString());
-        QVERIFY(!TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text1"_s)->isReadOnly());
-        QVERIFY(TestProgram::control(test->viewWindow(), u"Command4"_s)->isEnabled());
+        QVERIFY(!test->control<QPlainTextEdit>(u"Text1"_s)->isReadOnly());
+        QVERIFY(test->control(u"Command4"_s)->isEnabled());
 
         choose(*test, u"Option1(2)"_s, 0);
         QCOMPARE(notes(*test, u"Text2"_s), u"SALITA 3000"_s);
@@ -106,50 +103,43 @@ private Q_SLOTS:
     void notesAreSavedAsTheyAreRead() {
         const auto test = viewer();
         choose(*test, u"Option1(0)"_s, 2);
-        auto* route = TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text2"_s);
+        auto* route = test->control<QPlainTextEdit>(u"Text2"_s);
         QTest::keyClicks(route, u"via "_s);
         QCOMPARE(route->toPlainText(), u"VIA "_s);
         route->insertPlainText(u"città \"x\""_s); // pasted
-        auto* departure = TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text1"_s);
-        departure->insertPlainText(u"prima\nseconda"_s);
+        test->control<QPlainTextEdit>(u"Text1"_s)->insertPlainText(u"prima\nseconda"_s);
         test->boxes.answers = {Answer::Cancel};
-        TestProgram::click(test->viewWindow(), u"cmdSave"_s);
+        test->click(u"cmdSave"_s);
         QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Sid/ROTTA_ZETA.txt"_s)));
 
-        TestProgram::click(test->viewWindow(), u"cmdSave"_s);
+        test->click(u"cmdSave"_s);
         QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ROTTA_ZETA.txt"_s), "\"VIA CITT\xC0 \x94X\x94\"\r\n");
         QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ALTITUDINE_ZETA.txt"_s), "\"\"\r\n");
         QCOMPARE(test->read(u"aeroporti/LIRF/Sid/DECOLLO_ZETA.txt"_s), "\"prima\r\nseconda\"\r\n");
-        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 1);
-        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 2);
+        test->clickRow(u"List1"_s, 1);
+        test->clickRow(u"List1"_s, 2);
         QCOMPARE(notes(*test, u"Text1"_s), u"prima\nseconda"_s);
     }
 
-    void savingNeedsAChartOfTheListOnShow() {
+    void savingNeedsAChartOfTheListAndWhatCanBeStored() {
         const auto test = viewer();
         choose(*test, u"Option1(0)"_s, 1);
-        TestProgram::click(test->viewWindow(), u"Option1(2)"_s);
-        TestProgram::click(test->viewWindow(), u"cmdSave"_s);
-        QVERIFY(test->boxes.shown.last().text.contains(u"Scegli prima una cartina"_s));
-        QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Approach/MISSED_KENN1.txt"_s)));
-    }
-
-    void aNoteThatCannotBeStoredChangesNoFile() {
-        const auto test = viewer();
-        choose(*test, u"Option1(0)"_s, 1);
-        TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text1"_s)
-            ->insertPlainText(u"\u2192 OST"_s);
-        TestProgram::click(test->viewWindow(), u"cmdSave"_s);
+        test->control<QPlainTextEdit>(u"Text1"_s)->insertPlainText(u"\u2192 OST"_s);
+        test->click(u"cmdSave"_s);
         QVERIFY(test->boxes.shown.last().text.contains(u"«\u2192»"_s));
         QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Sid/ALTITUDINE_KENN1.txt"_s)));
         QCOMPARE(notes(*test, u"Text1"_s), u"\u2192 OST"_s);
+        test->click(u"Option1(2)"_s);
+        test->click(u"cmdSave"_s);
+        QVERIFY(test->boxes.shown.last().text.contains(u"Scegli prima una cartina"_s));
+        QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Approach/MISSED_KENN1.txt"_s)));
     }
 
     void zoomAndScrollMoveTheChart() {
         const auto test = viewer();
         choose(*test, u"Option1(0)"_s, 1);
-        QWidget* chart = TestProgram::control(test->viewWindow(), u"Image1"_s);
-        auto* across = TestProgram::control<QScrollBar>(test->viewWindow(), u"HScroll1"_s);
+        QWidget* chart = test->control(u"Image1"_s);
+        auto* across = test->control<QScrollBar>(u"HScroll1"_s);
         QTest::mousePress(across, Qt::LeftButton, {}, {24, 8});
         QTest::mouseMove(across, {120, 8}); // the thumb, still held
         QVERIFY(chart->x() < -50 && chart->x() == -across->value());
@@ -160,16 +150,16 @@ private Q_SLOTS:
         QCOMPARE(chart->geometry(), QRect(-310, -6, 1000, 1375));
         QTest::mouseClick(chart, Qt::RightButton, {}, QPoint(600, 300));
         QCOMPARE(chart->geometry(), QRect(-300, -1, 750, 1031));
-        for (int step = 0; step < 10; ++step) TestProgram::click(test->viewWindow(), u"Command1"_s);
+        for (int step = 0; step < 10; ++step) test->click(u"Command1"_s);
         QCOMPARE(test->beeper.beeps, 0);
-        TestProgram::click(test->viewWindow(), u"Command1"_s);
+        test->click(u"Command1"_s);
         QCOMPARE(test->beeper.beeps, 1);
     }
 
     void everySelectedRowIsTheChosenChart() {
         const auto test = viewer();
         choose(*test, u"Option1(0)"_s, 1);
-        auto* list = TestProgram::control<QListView>(test->viewWindow(), u"List1"_s);
+        auto* list = test->control<QListView>(u"List1"_s);
         const QPoint other = list->visualRect(list->model()->index(2, 0)).center();
         QTest::mouseClick(list->viewport(), Qt::RightButton, {}, other);
         QCOMPARE(list->currentIndex().row(), 1);
@@ -178,7 +168,7 @@ private Q_SLOTS:
         // Arrow keys only look around: leaving the list shows the chosen chart again.
         list->setFocus();
         QTest::keyClick(list, Qt::Key_Up);
-        TestProgram::control(test->viewWindow(), u"Text2"_s)->setFocus();
+        test->control(u"Text2"_s)->setFocus();
         QCOMPARE(list->currentIndex().row(), 2);
     }
 
@@ -186,14 +176,14 @@ private Q_SLOTS:
         const auto test = viewer();
         choose(*test, u"Option1(0)"_s, 1);
         test->write(u"aeroporti/LIRF/Sid/zeta.gif"_s, "this is no chart");
-        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 2);
+        test->clickRow(u"List1"_s, 2);
         QFile::remove(test->path(u"aeroporti/LIRF/Sid/zeta.gif"_s));
-        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 2);
+        test->clickRow(u"List1"_s, 2);
         QCOMPARE(test->boxes.shown.size(), 2);
         QVERIFY(test->boxes.shown.first().text.contains(u"danneggiato"_s));
         QVERIFY(test->boxes.shown.last().text.contains(u"non esiste"_s));
         QCOMPARE(test->program().viewWindow().ChartName, u"KENN1"_s);
-        QCOMPARE(TestProgram::control(test->viewWindow(), u"Image1"_s)->width(), 800);
+        QCOMPARE(test->control(u"Image1"_s)->width(), 800);
         QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
     }
 
@@ -203,14 +193,14 @@ private Q_SLOTS:
         test->program().state().CurrentAirport = u"  LIRF "_s;
         QEvent comeBack(QEvent::WindowActivate);
         QCoreApplication::sendEvent(test->viewWindow(), &comeBack);
-        QVERIFY(!TestProgram::control<QAbstractButton>(test->viewWindow(), u"Option1(0)"_s)->isChecked());
+        QVERIFY(!test->control<QAbstractButton>(u"Option1(0)"_s)->isChecked());
         QVERIFY(test->viewWindow()->windowTitle().startsWith(u"Quarvel - CARTINE DI LIRF  "_s));
         QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
         // The same family is a new choice now, and reads the folder afresh.
         test->program().state().CurrentAirport = u"LIRF"_s;
         test->addChart(u"aeroporti/LIRF/Sid/nuova.gif"_s, {20, 20});
-        TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
-        QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s).size(), 4);
+        test->click(u"Option1(0)"_s);
+        QCOMPARE(test->rows(u"List1"_s).size(), 4);
     }
 };
 

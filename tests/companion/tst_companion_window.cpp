@@ -98,8 +98,10 @@ private Q_SLOTS:
         test.addChart(u"aeroporti/LIRF/Aeroporto/LIRF.gif"_s, photo);
         test.click(u"Command4"_s);
         QTRY_COMPARE(test.boxes.shown.size(), 2);
-        test.choose(u"mnuAeroporto"_s);
+        test.choose(u"mnuAeroporto"_s); // the first picture, from which sizes are in proportion
         QCOMPARE(test.image()->size(), photo);
+        test.companionWindow()->resize(test.companionWindow()->size() + QSize(384, 0));
+        QTRY_COMPARE(test.image()->size(), QSize(40, 30));
     }
 
     void resizingScalesFromTheFirstLayout() {

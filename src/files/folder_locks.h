@@ -13,7 +13,8 @@ namespace quarvel {
 /// is anybody's.
 class FolderLocks {
 public:
-    /// `folders` in the same order in every program that locks more than one. Waits for half a second at most.
+    /// `folders` in the same order in every program that locks more than one. Waits for half a second at
+    /// most.
     explicit FolderLocks(const QStringList& folders);
 
     /// False when another program kept a folder for all that time.

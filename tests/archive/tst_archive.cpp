@@ -50,36 +50,27 @@ private Q_SLOTS:
         }
     }
 
-    void readValues_data() {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QStringList>("first");
-        const auto row = [](const char* claim, const QByteArray& text, const QStringList& first) {
-            QTest::newRow(claim) << text << first;
-        };
-        row("commas and line ends separate", "\"a\",b\r\nc\nd\re,", {u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s});
-        row("blanks around an unquoted value", "  a b \t, c  \r\n", {u"a b"_s, u"c"_s});
-        row("blanks before a quote", " \t\"a \" \r\nb\n", {u"a "_s, u"b"_s});
-        row("what follows a closing quote", "\"a\"bc\"d\",e\n\"f\" g\r\nh\n",
-            {u"a"_s, u"e"_s, u"f"_s, u"h"_s});
-        row("separators inside quotes", "\"a,\r\nb\"\r\nc\n", {u"a,\r\nb"_s, u"c"_s});
-        row("empty values", ",\"\"\r\n\r\nd\n", {u""_s, u""_s, u""_s, u"d"_s});
-        row("every byte is a letter", QByteArray("\"\0\x81\xFF\"\n", 6), {u"\0\u0081ÿ"_s});
-    }
-
     void readValues() {
-        QFETCH(QByteArray, text);
-        QFETCH(QStringList, first);
-        const int missing = recordSize - static_cast<int>(first.size());
-        const QByteArray filled = text + QByteArray("\"-\"\n").repeated(missing);
-        const Result<AirportRecord> record = parseRecord(filled, u"x"_s);
-        QVERIFY(record.ok());
-        QCOMPARE(QStringList(record.value().values.cbegin(), record.value().values.cbegin() + first.size()),
-                 first);
-        QCOMPARE(record.value().values.back(), u"-"_s);
-        // One value fewer is too short, one more or a missing last quote is not.
-        QCOMPARE(parseRecord(filled.chopped(4), u"x"_s).failure().detail, u"38"_s);
-        QVERIFY(parseRecord(filled + "more\n", u"x"_s).value() == record.value());
-        QVERIFY(parseRecord(filled.chopped(2), u"x"_s).value() == record.value());
+        const QList<std::pair<QByteArray, QStringList>> texts = {
+            {"\"a\",b\r\nc\nd\re,", {u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s}},
+            {"  a b \t, c  \r\n", {u"a b"_s, u"c"_s}},
+            {" \t\"a \" \r\nb\n", {u"a "_s, u"b"_s}},
+            {"\"a\"bc\"d\",e\n\"f\" g\r\nh\n", {u"a"_s, u"e"_s, u"f"_s, u"h"_s}},
+            {"\"a,\r\nb\"\r\nc\n", {u"a,\r\nb"_s, u"c"_s}}, // separators inside quotes
+            {",\"\"\r\n\r\nd\n", {u""_s, u""_s, u""_s, u"d"_s}},
+            {QByteArray("\"\0\x81\xFF\"\n", 6), {u"\0\u0081ÿ"_s}}};
+        for (const auto& [text, first] : texts) {
+            const QByteArray filled = text + QByteArray("\"-\"\n").repeated(recordSize - first.size());
+            const Result<AirportRecord> record = parseRecord(filled, u"x"_s);
+            QVERIFY(record.ok());
+            const auto& values = record.value().values;
+            QCOMPARE(QStringList(values.cbegin(), values.cbegin() + first.size()), first);
+            QCOMPARE(values.back(), u"-"_s);
+            // One value fewer is too short, one more or a missing last quote is not.
+            QCOMPARE(parseRecord(filled.chopped(4), u"x"_s).failure().detail, u"38"_s);
+            QVERIFY(parseRecord(filled + "more\n", u"x"_s).value() == record.value());
+            QVERIFY(parseRecord(filled.chopped(2), u"x"_s).value() == record.value());
+        }
     }
 
     void namesToOpenAndNamesToMake() {

@@ -1,4 +1,5 @@
 #include "archive/listing.h"
+#include "support/disk.h"
 
 #include <QDir>
 #include <QFile>
@@ -22,11 +23,6 @@ QStringList rows(const ArchiveListing& listing) {
     return texts;
 }
 
-void touch(const QString& path) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-}
-
 qint64 changedAt(const QString& path) {
     struct stat info {};
     ::stat(QFile::encodeName(path).constData(), &info);
@@ -36,7 +32,7 @@ qint64 changedAt(const QString& path) {
 /// Waits until a change of `folder` would get another time than its last one.
 void waitForTick(const QString& folder) {
     const QTemporaryDir probe;
-    QTRY_VERIFY((touch(probe.filePath(u"x"_s)), changedAt(probe.filePath(u"x"_s)) > changedAt(folder)));
+    QTRY_VERIFY((put(probe.filePath(u"x"_s)), changedAt(probe.filePath(u"x"_s)) > changedAt(folder)));
 }
 
 } // namespace
@@ -44,47 +40,36 @@ void waitForTick(const QString& folder) {
 class TestListing : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void matching_data() {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("listed"); // separated by blanks
-        QTest::newRow("nothing typed lists all")
-            << u""_s << u"A.B A_B AXB FORLI Forl\u00EC LILIM liml LIMZ LIRF"_s;
-        QTest::newRow("a beginning in whatever case") << u"LI"_s << u"LILIM liml LIMZ LIRF"_s;
-        QTest::newRow("a question mark is one character") << u"A?B"_s << u"A.B A_B AXB"_s;
-        QTest::newRow("a question mark is one accented letter") << u"FORL??"_s << u""_s;
-        QTest::newRow("a star is any number") << u"*I*M"_s << u"LILIM liml LIMZ"_s;
-        QTest::newRow("a star gives back what it took too much") << u"*LIM"_s << u"LILIM liml LIMZ"_s;
-        QTest::newRow("accents in the other case") << u"FORL\u00CC"_s << u"Forl\u00EC"_s;
-        QTest::newRow("hidden entries never") << u".H"_s << u""_s;
-        QTest::newRow("a separator matches nothing") << u"LIRF/"_s << u""_s;
-        QTest::newRow("longer than any name") << u"L"_s.repeated(5000) << u""_s;
-        QTest::newRow("many stars and no match") << u"*L*I"_s.repeated(2000) << u""_s;
-    }
-
     void matching() {
         const QTemporaryDir temp;
         // The accented name lies on the disk as a letter and its accent apart, as some systems store it.
         for (const QString& name : {u"LIRF"_s, u"liml"_s, u"LIMZ"_s, u"LILIM"_s, u"A.B"_s, u"A_B"_s, u"AXB"_s,
                                     u"FORLI"_s, u"Forli\u0300"_s, u".hidden"_s})
             QVERIFY(QDir(temp.path()).mkdir(name));
-        QFETCH(QString, typed);
-        QFETCH(QString, listed);
-        QStringList expected;
-        for (const QString& name : listed.split(u' ', Qt::SkipEmptyParts))
-            expected.append(u'[' + name + u']');
-        QStringList found = rows(ArchiveSearch().list(temp.path(), typed));
-        for (QString& text : found) text = text.normalized(QString::NormalizationForm_C);
-        QCOMPARE(found, expected);
+        for (const auto& [typed, listed] :
+             {std::pair(u""_s, u"[A.B] [A_B] [AXB] [FORLI] [Forl\u00EC] [LILIM] [liml] [LIMZ] [LIRF]"_s),
+              {u"LI"_s, u"[LILIM] [liml] [LIMZ] [LIRF]"_s},
+              {u"A?B"_s, u"[A.B] [A_B] [AXB]"_s},
+              {u"FORL??"_s, u""_s}, // the accented letter is one
+              {u"*I*M"_s, u"[LILIM] [liml] [LIMZ]"_s},
+              {u"*LIM"_s, u"[LILIM] [liml] [LIMZ]"_s}, // the star gives back what it took too much
+              {u"FORL\u00CC"_s, u"[Forl\u00EC]"_s},
+              {u".H"_s, u""_s},
+              {u"LIRF/"_s, u""_s},
+              {u"L"_s.repeated(5000), u""_s},
+              {u"*L*I"_s.repeated(2000), u""_s}}) {
+            const QString found = rows(ArchiveSearch().list(temp.path(), typed)).join(u' ');
+            QCOMPARE(found.normalized(QString::NormalizationForm_C), listed);
+        }
     }
 
     void kinds() {
         const QTemporaryDir temp;
         const QDir dir(temp.path());
         QVERIFY(dir.mkdir(u"Folder"_s) && dir.mkdir(u"[x]"_s));
-        QFile file(dir.filePath(u"File.txt"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        put(dir.filePath(u"File.txt"_s));
         QVERIFY(QFile::link(dir.filePath(u"Folder"_s), dir.filePath(u"LinkToFolder"_s)));
-        QVERIFY(QFile::link(file.fileName(), dir.filePath(u"LinkToFile"_s)));
+        QVERIFY(QFile::link(u"File.txt"_s, dir.filePath(u"LinkToFile"_s)));
         QVERIFY(QFile::link(dir.filePath(u"nothing"_s), dir.filePath(u"LinkToNothing"_s)));
         QCOMPARE(::mkfifo(QFile::encodeName(dir.filePath(u"Pipe"_s)).constData(), 0600), 0);
         QCOMPARE(
@@ -98,20 +83,8 @@ private Q_SLOTS:
         QTest::addColumn<bool>("keeps"); // what was read
         QTest::addColumn<QString>("listed");
         QTest::newRow("unchanged") << Change([](const QDir&) { return true; }) << true << u"[A] [B] F [L]"_s;
-        QTest::newRow("an entry added")
-            << Change([](const QDir& dir) { return dir.mkdir(u"C"_s); }) << false << u"[A] [B] [C] F [L]"_s;
-        QTest::newRow("an entry removed")
-            << Change([](const QDir& dir) { return dir.rmdir(u"A"_s); }) << false << u"[B] F [L]"_s;
         QTest::newRow("an entry renamed")
             << Change([](QDir dir) { return dir.rename(u"A"_s, u"Z"_s); }) << false << u"[B] F [L] [Z]"_s;
-        QTest::newRow("a file becomes a folder")
-            << Change([](QDir dir) { return dir.remove(u"F"_s) && dir.mkdir(u"F"_s); }) << false
-            << u"[A] [B] [F] [L]"_s;
-        QTest::newRow("a link's target becomes a file") << Change([](const QDir& dir) {
-            touch(dir.filePath(u"../new"_s));
-            return dir.rmdir(u"../target"_s) &&
-                   QFile::rename(dir.filePath(u"../new"_s), dir.filePath(u"../target"_s));
-        }) << true << u"[A] [B] F L"_s;
         QTest::newRow("a link's target vanishes")
             << Change([](const QDir& dir) { return dir.rmdir(u"../target"_s); }) << true << u"[A] [B] F"_s;
         QTest::newRow("another folder takes the place") << Change([](const QDir& dir) {
@@ -127,7 +100,7 @@ private Q_SLOTS:
         const QTemporaryDir temp;
         const QDir dir(temp.filePath(u"archive"_s));
         QVERIFY(dir.mkpath(u"A"_s) && dir.mkpath(u"B"_s) && dir.mkdir(u"../target"_s));
-        touch(dir.filePath(u"F"_s));
+        put(dir.filePath(u"F"_s));
         QVERIFY(QFile::link(u"../target"_s, dir.filePath(u"L"_s)));
         ArchiveSearch search(std::chrono::nanoseconds(0));
         QCOMPARE(rows(search.list(dir.path(), {})), (QStringList{u"[A]"_s, u"[B]"_s, u"F"_s, u"[L]"_s}));

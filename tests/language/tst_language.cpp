@@ -31,34 +31,23 @@ private Q_SLOTS:
         folder_ = std::make_unique<QTemporaryDir>();
         current_.clear();
     }
-    void profile_data() {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("value");
-        const auto row = [](const char* claim, const QByteArray& bytes, const QString& value,
-                            const QString& key = u"0001"_s) {
-            QTest::newRow(claim) << bytes << key << value;
-        };
-        const QByteArray head = "[Strings]\r\n";
-        row("key in other letter case", head + "frmMain.Caption=\"x\"\r\n", u"x"_s, u"frmmain.caption"_s);
-        row("section in other letter case, blanks around it", " \t[STRINGS] \r\n0001=x\r\n", u"x"_s);
-        row("blanks around key and value", head + " \t0001\t =  \"a b\" \t\r\n", u"a b"_s);
-        row("single quotes", head + "0001='a'\r\n", u"a"_s);
-        row("a lone quote stays", head + "0001=\"\r\n", u"\""_s);
-        row("first entry wins", head + "0001=a\r\n0001=b\r\n", u"a"_s);
-        row("first section of the name wins", head + "[x]\r\n[Strings]\r\n0001=b\r\n", QString());
-        row("longer key", head + "00011=a\r\n0001=b\r\n", u"b"_s);
-        row("comment", head + "  ;0001=a\r\n0001=b ; c\r\n", u"b ; c"_s);
-        row("bare line feeds, no last line end", "[Strings]\n0001=a", u"a"_s);
-        row("up to the first NUL", head + QByteArrayLiteral("0001=ab\0cd\r\n"), u"ab"_s);
-        row("511 characters", head + "0001=\"" + QByteArray(600, 'a') + "\"\r\n", QString(511, u'a'));
-    }
-
     void profile() {
-        QFETCH(QByteArray, bytes);
-        QFETCH(QString, key);
-        put(u"a.lng"_s, bytes);
-        QTEST(ReadIniString(path(u"a.lng"_s), u"Strings"_s, key).value(), "value");
+        const QByteArray head = "[Strings]\r\n";
+        for (const auto& [bytes, value] :
+             {std::pair(" \t[STRINGS] \r\nnAmE=x\r\n"_ba, u"x"_s),
+              {head + " \tname\t =  \"a b\" \t\r\n", u"a b"_s},
+              {head + "name='a'\r\n", u"a"_s},
+              {head + "name=\"\r\n", u"\""_s}, // a lone quote stays
+              {head + "name=a\r\nname=b\r\n", u"a"_s},
+              {head + "[x]\r\n[Strings]\r\nname=b\r\n", QString()}, // the first section of its name
+              {head + "name1=a\r\nname=b\r\n", u"b"_s},
+              {head + "  ;name=a\r\nname=b ; c\r\n", u"b ; c"_s},
+              {"[Strings]\nname=a", u"a"_s},
+              {head + "name=ab\0cd\r\n"_ba, u"ab"_s},
+              {head + "name=\"" + QByteArray(600, 'a') + "\"\r\n", QString(511, u'a')}}) {
+            put(u"a.lng"_s, bytes);
+            QCOMPARE(ReadIniString(path(u"a.lng"_s), u"Strings"_s, u"name"_s).value(), value);
+        }
     }
 
     void largeFilesAreScannedLineByLine() {

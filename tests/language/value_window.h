@@ -1,12 +1,11 @@
 #pragma once
 
 #include "forms/core/control.h"
+#include "support/plain_window.h"
 
 #include <QString>
 #include <QStringList>
-#include <memory>
 #include <optional>
-#include <vector>
 
 namespace quarvel {
 
@@ -35,30 +34,18 @@ struct ValueControl : Control {
 };
 
 /// A window over such controls; it stays loaded.
-struct ValueWindow : ControlWindow {
-    QString caption = QStringLiteral("designed"), tag = QStringLiteral("designed tag");
-    std::vector<std::unique_ptr<ValueControl>> list;
-
-    ValueControl& add(const QString& name, std::optional<int> index = std::nullopt) {
-        ValueControl& control = *list.emplace_back(std::make_unique<ValueControl>());
-        control.name_ = name;
+struct ValueWindow : PlainWindow<ControlWindow, ValueControl> {
+    ValueWindow() {
+        name = QStringLiteral("frmMain");
+        caption = tag = QStringLiteral("designed");
+    }
+    ValueControl& add(const QString& controlName, std::optional<int> index = std::nullopt) {
+        ValueControl& control = addControl();
+        control.name_ = controlName;
         control.index_ = index;
         control.caption_ = control.toolTip_ = control.tag_ = QStringLiteral("designed");
         return control;
     }
-    QString windowName() const override { return QStringLiteral("frmMain"); }
-    QString windowCaption() const override { return caption; }
-    void setWindowCaption(const QString& text) override { caption = text; }
-    QString windowTag() const override { return tag; }
-    void setWindowTag(const QString& text) override { tag = text; }
-    std::vector<Control*> controls() const override {
-        std::vector<Control*> result;
-        for (const auto& control : list) result.push_back(control.get());
-        return result;
-    }
-    void processPendingMessages() override {}
-    bool isLoaded() const override { return true; }
-    int loading() const override { return 1; }
 };
 
 } // namespace quarvel

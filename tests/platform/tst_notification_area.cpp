@@ -88,7 +88,7 @@ private Q_SLOTS:
         daemon_.waitForFinished();
     }
 
-    void theIconShowsItsTipAndPicture() {
+    void theIconShowsItsTipAndIsClickedUntilItIsDeleted() {
         Host host;
         Window window;
         DesktopNotificationArea area;
@@ -102,14 +102,6 @@ private Q_SLOTS:
         const auto pixmaps = qdbus_cast<NotifierPixmaps>(told[u"IconPixmap"_s]);
         QCOMPARE(pixmaps.last().width, 32); // and not 64 pixels that the picture does not have
         QCOMPARE(pixmaps.first().pixels, QByteArray("\xFF\x01\x02\x03").repeated(256));
-    }
-
-    void clicksBecomeMouseMessagesUntilTheIconIsDeleted() {
-        Host host;
-        Window window;
-        DesktopNotificationArea area;
-        area.notifyIcon(NotifyAction::Add, record(), window);
-        QTRY_VERIFY(area.isThere());
         for (const QString& click : {u"Activate"_s, u"SecondaryActivate"_s, u"ContextMenu"_s})
             host.click(click);
         QTRY_COMPARE(window.messages, QList<int>({513, 514, 519, 520, 516, 517}));

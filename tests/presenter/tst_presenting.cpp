@@ -22,7 +22,7 @@ private:
 
 void openAnd(TestProgram& test, const QString& airport) {
     test.openAirport(airport);
-    TestProgram::click(test.mainWindow(), u"cmdAzzera"_s);
+    test.click(u"cmdAzzera"_s);
 }
 
 } // namespace

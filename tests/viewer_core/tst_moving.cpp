@@ -3,7 +3,8 @@
 #include "viewer/viewport/wheel_steps.h"
 
 #include <QTest>
-#include <vector>
+#include <optional>
+#include <tuple>
 
 using namespace quarvel;
 using namespace Qt::StringLiterals;
@@ -37,22 +38,22 @@ private Q_SLOTS:
         };
         const auto shift = Qt::ShiftModifier;
         const auto control = Qt::ControlModifier;
-        row("a notch towards the user goes down", {turn(0, -120)}, QList<int>{0, 30, 0});
+        row("a notch towards the user goes down", {turn(0, -120)}, {0, 30, 0});
+        row("with Shift sideways", {turn(0, -120, shift)}, {30, 0, 0});
         row("with Shift sideways where the desktop turns the axis itself", {turn(-120, 0, shift)},
             {30, 0, 0});
-        row("a wheel tilted to the left", {turn(120, 0)}, QList<int>{-30, 0, 0});
-        row("an eighth of a notch eight times is a notch", QList<WheelTurn>(8, turn(0, -15)),
-            QList<int>{0, 30, 0});
-        row("odd parts lose nothing", QList<WheelTurn>(120, turn(-7, 1)), QList<int>{210, -30, 0});
-        row("turning back drops the rest", {turn(0, -3), turn(0, 2), turn(0, 2)}, QList<int>{0, -1, 0});
-        row("another key drops the rest", {turn(0, -3), turn(0, -3, shift), turn(0, -3)},
-            QList<int>{0, 0, 0});
-        row("fingers move the chart by their own way", {fingers(5, -7)}, QList<int>{-5, 7, 0});
-        row("with Control a notch zooms", {turn(0, 120, control), turn(0, 120, control)},
-            QList<int>{0, 0, 2});
-        row("a notch in parts zooms once", QList<WheelTurn>(8, turn(0, -15, control)), QList<int>{0, 0, -1});
-        row("fingers zoom by the angle", QList<WheelTurn>(3, fingers(0, 5, control)), QList<int>{0, 0, 1});
-        row("sideways zooms nothing", {turn(240, 0, control)}, QList<int>{0, 0, 0});
+        row("a wheel tilted to the left", {turn(120, 0)}, {-30, 0, 0});
+        row("odd parts lose nothing", QList<WheelTurn>(120, turn(-7, 1)), {210, -30, 0});
+        row("turning back drops the rest", {turn(0, -3), turn(0, 2), turn(0, 2)}, {0, -1, 0});
+        row("the other axis has a rest of its own", {turn(0, -2), turn(2, 0), turn(0, -2)}, {0, 1, 0});
+        row("another key drops the rest", {turn(0, -3), turn(0, -3, shift), turn(0, -3)}, {0, 0, 0});
+        row("fingers move the chart by their own way", {fingers(5, -7)}, {-5, 7, 0});
+        row("out, with whatever other key", {turn(0, -120, control | shift)}, {0, 0, -1});
+        row("a notch in parts zooms once", QList<WheelTurn>(8, turn(0, -15, control)), {0, 0, -1});
+        row("seven parts, and one back", QList<WheelTurn>(7, turn(0, 15, control)) << turn(0, -15, control),
+            {0, 0, 0});
+        row("fingers zoom by the angle", QList<WheelTurn>(3, fingers(0, 5, control)), {0, 0, 1});
+        row("sideways zooms nothing", {turn(240, 0, control)}, {0, 0, 0});
     }
     void turnsAddUp() {
         QFETCH(const QList<WheelTurn>, turns);
@@ -94,27 +95,21 @@ private Q_SLOTS:
         QCOMPARE(drag.moved({91, 105}, {-70, -60}), QPointF(-69, -60));
     }
 
-    void keysMeanWhatIsOnThem_data() {
-        QTest::addColumn<int>("key");
-        QTest::addColumn<Qt::KeyboardModifiers>("held");
-        QTest::addColumn<std::optional<ChartKey>>("meaning");
-        const auto row = [](const char* claim, Qt::Key key, Qt::KeyboardModifiers held,
-                            std::optional<ChartKey> meaning) {
-            QTest::newRow(claim) << static_cast<int>(key) << held << meaning;
-        };
-        row("plus typed with Shift", Qt::Key_Plus, Qt::ShiftModifier, ChartKey::ZoomIn);
-        row("plus of the keypad", Qt::Key_Plus, Qt::KeypadModifier, ChartKey::ZoomIn);
-        row("the plus key without Shift", Qt::Key_Equal, none, ChartKey::ZoomIn);
-        row("a menu's key", Qt::Key_Minus, Qt::AltModifier, std::nullopt);
-        row("an arrow of the keypad", Qt::Key_Left, Qt::KeypadModifier, ChartKey::Left);
-        row("an arrow with Shift", Qt::Key_Left, Qt::ShiftModifier, std::nullopt);
-        row("a letter", Qt::Key_A, none, std::nullopt);
-    }
     void keysMeanWhatIsOnThem() {
-        QFETCH(const int, key);
-        QFETCH(const Qt::KeyboardModifiers, held);
-        QFETCH(const std::optional<ChartKey>, meaning);
-        QVERIFY(chartKey(key, held) == meaning);
+        using Key = std::tuple<Qt::Key, Qt::KeyboardModifiers, std::optional<ChartKey>>;
+        const auto control = Qt::ControlModifier;
+        const auto shift = Qt::ShiftModifier;
+        for (const auto& [key, held, meaning] :
+             {Key{Qt::Key_Plus, shift, ChartKey::ZoomIn}, // as it is typed
+              {Qt::Key_Plus, control | shift, ChartKey::ZoomIn},
+              {Qt::Key_Equal, none, ChartKey::ZoomIn}, // the key of the plus
+              {Qt::Key_Equal, shift, std::nullopt},
+              {Qt::Key_Minus, Qt::AltModifier, std::nullopt}, // a menu's
+              {Qt::Key_Left, Qt::KeypadModifier, ChartKey::Left},
+              {Qt::Key_Left, shift, std::nullopt},
+              {Qt::Key_End, control, ChartKey::RightEnd},
+              {Qt::Key_PageUp, shift, ChartKey::PageLeft}})
+            QVERIFY2(chartKey(key, held) == meaning, qPrintable(QString::number(key, 16)));
     }
 };
 

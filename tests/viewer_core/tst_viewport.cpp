@@ -2,6 +2,7 @@
 
 #include <QTest>
 #include <functional>
+#include <tuple>
 #include <vector>
 
 using namespace quarvel;
@@ -144,31 +145,24 @@ private Q_SLOTS:
         QTEST(told(viewport), "expected");
     }
 
-    void clickMovesValue_data() {
-        QTest::addColumn<Step>("click");
-        QTest::addColumn<int>("from");
-        QTest::addColumn<int>("to");
-        // A chart of 800 x 1100: the range grows to 994 (1000 - 6.4876) or shrinks to 594 (600 - 6.4876).
-        QTest::newRow("in: a sixtieth of the distance") << in(600, 0) << 1 << 11;
-        QTest::newRow("in: half to the even value below") << in(690, 0) << 1 << 12; // 1 + 11.5
-        QTest::newRow("in: half to the even value above") << in(750, 0) << 1 << 14; // 1 + 12.5
-        QTest::newRow("in: up to the new maximum") << in(12000, 0) << 793 << 993;
-        QTest::newRow("in: below the minimum is skipped") << in(-600, 0) << 5 << 5;
-        QTest::newRow("in: a button has no point") << in(600, 0, ZoomBy::Button) << 5 << 5;
-        QTest::newRow("out: a sixtieth of the distance") << out(600, 0) << 100 << 90;
-        QTest::newRow("out: raised to 1") << out(600, 0) << 5 << 1;
-        QTest::newRow("out: pulled to the new maximum") << out(600, 0) << 700 << 594;
-    }
-
     void clickMovesValue() {
-        QFETCH(Step, click);
-        QFETCH(int, from);
-        QFETCH(int, to);
-        Viewport viewport = loaded(viewer, {800, 1100});
-        viewport.setHorizontal(from);
-        click(viewport);
-        QCOMPARE(int{viewport.horizontal().value}, to);
-        QCOMPARE(viewport.left(), static_cast<float>(-to));
+        // A chart of 800 x 1100: the range grows to 994 (1000 - 6.4876) or shrinks to 594 (600 - 6.4876).
+        for (const auto& [claim, click, from, to] :
+             {std::tuple("in: a sixtieth of the distance", in(600, 0), 1, 11),
+              {"in: half to the even value below", in(690, 0), 1, 12}, // 1 + 11.5
+              {"in: half to the even value above", in(750, 0), 1, 14}, // 1 + 12.5
+              {"in: up to the new maximum", in(12000, 0), 793, 993},
+              {"in: below the minimum is skipped", in(-600, 0), 5, 5},
+              {"in: a button has no point", in(600, 0, ZoomBy::Button), 5, 5},
+              {"out: a sixtieth of the distance", out(600, 0), 100, 90},
+              {"out: raised to 1", out(600, 0), 5, 1},
+              {"out: pulled to the new maximum", out(600, 0), 700, 594}}) {
+            Viewport viewport = loaded(viewer, {800, 1100});
+            viewport.setHorizontal(from);
+            click(viewport);
+            QVERIFY2(viewport.horizontal().value == to, claim);
+            QCOMPARE(viewport.left(), static_cast<float>(-to));
+        }
     }
 
     void zoomInStopsAtTen() {

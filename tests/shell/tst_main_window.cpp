@@ -86,6 +86,26 @@ private Q_SLOTS:
         QCOMPARE(test.urls.opened, QStringList(u"mailto:"_s + address));
     }
 
+    void theFocusIsSeenAroundWhateverHasIt() {
+        TestProgram test;
+        test.startWith(u"LIRF"_s);
+        QWidget* window = test.mainWindow();
+        QWidget* ring = TestProgram::control(window, u"focusRing"_s);
+        const auto surrounds = [&](const QWidget* control) {
+            const QRect place(control->mapTo(window, QPoint()), control->size());
+            return ring->isVisible() && ring->geometry().contains(place & window->rect()) &&
+                   !ring->mask().intersects(place.translated(-ring->pos()).adjusted(3, 3, -3, -3));
+        };
+        for (const auto& name : {u"cmdGrafica"_s, u"txtRwy(38)"_s, u"txtRwy(32)"_s}) {
+            QWidget* control = TestProgram::control(window, name);
+            control->setFocus(Qt::TabFocusReason);
+            QVERIFY2(surrounds(control), qPrintable(name));
+        }
+        QWidget* last = QApplication::focusWidget();
+        last->parentWidget()->hide();
+        QVERIFY(!last->hasFocus() && surrounds(QApplication::focusWidget()));
+    }
+
     void flagsAndSupportAddressAreCommandsForTheKeyboardToo() {
         TestProgram test;
         test.start();

@@ -42,8 +42,9 @@ Result<std::unique_ptr<StagingFolder>> StagingFolder::make(const QString& folder
 }
 
 void StagingFolder::clearLeftOvers(const QString& folder) {
-    const QStringList names =
-        QDir(folder).entryList({namePrefix + u'*'}, QDir::Dirs | QDir::Hidden | QDir::NoSymLinks);
+    // To the letter: by its capitals a folder of the user's may be told from one of these.
+    const QStringList names = QDir(folder).entryList(
+        {namePrefix + u"??????"_s}, QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::CaseSensitive);
     for (const QString& name : names) {
         const QString path = folder + u'/' + name;
         const Descriptor opened(openFolder(path));

@@ -81,7 +81,8 @@ private Q_SLOTS:
         };
         for (const QString& plain : {u"FORL\u00CC 2"_s, u"A.B"_s, u" A"_s, QString(251, u'A')})
             QCOMPARE(judged(plain), u"111"_s);
-        for (const QString& onlyOpened : {u"LIRF."_s, u"LIRF "_s, QString(252, u'A'), QString(126, u'È')})
+        for (const QString& onlyOpened :
+             {u".LIRF"_s, u"LIRF."_s, u"LIRF "_s, QString(252, u'A'), QString(126, u'È')})
             QCOMPARE(judged(onlyOpened), u"101"_s);
         for (const QString& refused : {u""_s, u"."_s, u".."_s, u"A*"_s, u"A?"_s, u"A\""_s, u"<A"_s, u"C:"_s})
             QCOMPARE(judged(refused), u"001"_s);
@@ -91,7 +92,10 @@ private Q_SLOTS:
 
     void newAirportGetsItsFolders() {
         const QString name(251, u'A'); // the longest name must still be savable
+        const QString likeALeftOver = at(u"Aeroporti/.QUARVEL-NEW-ABCDEF"_s); // but the user's
+        QVERIFY(QDir().mkdir(likeALeftOver));
         QVERIFY(createAirportFolders(*paths_, name).ok());
+        QVERIFY(QFileInfo::exists(likeALeftOver));
         QCOMPARE(QDir(at(u"Aeroporti/"_s + name)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
                  (QStringList{u"Aeroporto"_s, u"Approach"_s, u"Sid"_s, u"Star"_s}));
         QVERIFY(writeRecord(paths_->dataFileForWriting(name), recordOf(u"x"_s)).ok());

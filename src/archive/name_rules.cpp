@@ -29,6 +29,8 @@ Result<void> checkAirportName(const QString& name, NameUse use) {
     for (const QChar character : name)
         if (refused(character)) return Failure{Fault::BadName, name, QString(character)};
     if (use == NameUse::Existing) return {};
+    // What begins with a dot is hidden: the airport would never be listed.
+    if (name.startsWith(u'.')) return Failure{Fault::BadName, name, name.first(1)};
     if (name.endsWith(u'.') || name.endsWith(u' ')) return Failure{Fault::BadName, name, name.last(1)};
     if (QFile::encodeName(name).size() > longestNewName) return Failure{Fault::BadName, name, {}};
     return {};

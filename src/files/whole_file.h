@@ -39,7 +39,8 @@ struct FileContent {
 /// end the process. For the beginning of a program.
 void outliveSizeLimits();
 
-/// Why `path` could not be written or made, from the system's error number: DiskFull or Unwritable.
+/// Why `path` could not be written or made, from the system's error number: DiskFull, BadName (too long) or
+/// Unwritable.
 [[nodiscard]] Failure writeFailure(const QString& path, int error);
 
 } // namespace quarvel

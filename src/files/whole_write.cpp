@@ -133,6 +133,7 @@ private:
 } // namespace
 
 Failure writeFailure(const QString& path, int error) {
+    if (error == ENAMETOOLONG) return {Fault::BadName, path, {}};
     const bool full = error == ENOSPC || error == EDQUOT || error == EFBIG;
     return {full ? Fault::DiskFull : Fault::Unwritable, path, {}};
 }

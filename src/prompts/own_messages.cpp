@@ -45,9 +45,9 @@ constexpr std::array messages = {
     OwnMessage{u"0135", u"È troppo grande:\n%1\nControlla che sia il file giusto."},
     OwnMessage{u"0136", u"È incompleto:\n%1\nControlla che il file contenga tutti i suoi valori."},
     OwnMessage{u"0137", u"È danneggiato o di un altro formato:\n%1\nSostituiscilo con una copia buona."},
-    OwnMessage{u"0138", u"Non è un nome valido: «%1».\nUsa lettere, cifre e spazi interni, senza / \\ * ? \" "
-                        u"< > | : e senza punto o spazio alla "
-                        u"fine; se è molto lungo, accorcialo."},
+    OwnMessage{u"0138",
+               u"Non è un nome valido: «%1».\nUsa lettere, cifre e spazi interni, senza / \\ * ? \" < > | : "
+               u"e senza punto all'inizio né punto o spazio alla fine; se è molto lungo, accorcialo."},
     OwnMessage{
         u"0139",
         u"Il testo contiene il carattere «%2», che il file non può conservare:\n%1\nToglilo e riprova."},

@@ -216,6 +216,7 @@ private Q_SLOTS:
 
     void aNameThatCannotBeAFolderIsRefusedWhenItIsMade_data() {
         QTest::addColumn<QString>("name");
+        QTest::newRow("a dot at its beginning") << u".LIRX"_s;
         QTest::newRow("a dot at its end") << u"LIRX."_s;
         QTest::newRow("a blank at its end") << u"LIRX "_s;
         QTest::newRow("256 letters") << QString(256, u'X');

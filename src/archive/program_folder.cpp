@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
+#include <pwd.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -17,11 +17,20 @@ QString starterFolder(const QString& executableFolder) {
     return QDir::cleanPath(executableFolder + u"/../share/quarvel/starter"_s);
 }
 
+/// The user's home, from the user database where the environment names none: the toolkit would take the root
+/// of the file system.
+QString homeFolder() {
+    const QString named = qEnvironmentVariable("HOME");
+    if (QDir::isAbsolutePath(named)) return named;
+    const passwd* const user = ::getpwuid(::getuid()); // NOLINT(concurrency-mt-unsafe): asked only here
+    return user != nullptr ? QFile::decodeName(user->pw_dir) : QDir::homePath();
+}
+
 /// Where programs keep their data for this user. XDG_DATA_HOME, given as a relative path, is invalid and to
 /// be ignored (the desktops' base directory rules, 0.8, "Basics"); Qt 6.4 would take it.
 QString userDataFolder() {
-    const QString named = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return QDir::isAbsolutePath(named) ? named : QDir::homePath() + u"/.local/share"_s;
+    const QString named = qEnvironmentVariable("XDG_DATA_HOME");
+    return QDir::isAbsolutePath(named) ? named : homeFolder() + u"/.local/share"_s;
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include <csignal>
 #include <future>
 #include <memory>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -101,6 +102,9 @@ private Q_SLOTS:
     void surroundingsAreLookedAt() {
         const QString bin = at(u"usr/bin"_s);
         QVERIFY(QDir().mkpath(bin));
+        qputenv("XDG_DATA_HOME", {});
+        qputenv("HOME", "relative");
+        QVERIFY(findProgramFolder(bin).path.startsWith(QFile::decodeName(::getpwuid(::getuid())->pw_dir)));
         qputenv("HOME", QFile::encodeName(at(u"home"_s)));
         for (const char* unusable : {"", "relative/share"}) {
             qputenv("XDG_DATA_HOME", unusable);

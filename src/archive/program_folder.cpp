@@ -20,7 +20,7 @@ QString starterFolder(const QString& executableFolder) {
 /// The user's home, from the user database where the environment names none: the toolkit would take the root
 /// of the file system.
 QString homeFolder() {
-    const QString named = qEnvironmentVariable("HOME");
+    QString named = qEnvironmentVariable("HOME");
     if (QDir::isAbsolutePath(named)) return named;
     const passwd* const user = ::getpwuid(::getuid()); // NOLINT(concurrency-mt-unsafe): asked only here
     return user != nullptr ? QFile::decodeName(user->pw_dir) : QDir::homePath();

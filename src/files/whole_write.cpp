@@ -64,6 +64,11 @@ public:
         return error == 0 ? Result<void>() : writeFailure(content_.path, error);
     }
 
+    /// Where there is nothing to replace, nothing is called.
+    void announce(const BeforeReplacing& beforeReplacing) const {
+        if (existed_ && beforeReplacing) beforeReplacing(place_);
+    }
+
     Result<void> takeName() {
         const QByteArray place = QFile::encodeName(place_);
         // A second name for the old file. Where there are none, takeNameBack() cannot help.
@@ -110,11 +115,12 @@ public:
         return files_.back().make(*stagings_.at(folder), files_.size());
     }
 
-    Result<void> takeNames() {
+    Result<void> takeNames(const BeforeReplacing& beforeReplacing) {
         QStringList folders;
         for (const auto& [folder, staging] : stagings_) folders.append(folder);
         const FolderLocks locks(folders);
         if (!locks.held()) return Failure{Fault::Unwritable, folders.first(), {}};
+        for (const StagedFile& file : files_) file.announce(beforeReplacing);
         for (auto file = files_.begin(); file != files_.end(); ++file) {
             Result<void> taken = file->takeName();
             if (taken) continue;
@@ -140,12 +146,12 @@ Failure writeFailure(const QString& path, int error) {
 
 void outliveSizeLimits() { std::signal(SIGXFSZ, SIG_IGN); }
 
-Result<void> writeWholeFiles(const std::vector<FileContent>& files) {
+Result<void> writeWholeFiles(const std::vector<FileContent>& files, const BeforeReplacing& beforeReplacing) {
     if (files.empty()) return {};
     Writing writing;
     for (const FileContent& content : files)
         if (Result<void> made = writing.make(content); !made) return made;
-    return writing.takeNames();
+    return writing.takeNames(beforeReplacing);
 }
 
 Result<void> writeNewFile(const QString& path, const QByteArray& bytes) {
@@ -153,8 +159,9 @@ Result<void> writeNewFile(const QString& path, const QByteArray& bytes) {
     return error == 0 ? Result<void>() : writeFailure(path, error);
 }
 
-Result<void> writeWholeFile(const QString& path, const QByteArray& bytes) {
-    return writeWholeFiles({{path, bytes}});
+Result<void> writeWholeFile(const QString& path, const QByteArray& bytes,
+                            const BeforeReplacing& beforeReplacing) {
+    return writeWholeFiles({{path, bytes}}, beforeReplacing);
 }
 
 } // namespace quarvel

@@ -71,6 +71,19 @@ private Q_SLOTS:
         QCOMPARE(readWholeFile(at(u"pipe"_s), 6).failure().fault, Fault::NotRegular); // does not block
         QCOMPARE(writeWholeFile(at(u"pipe"_s), bytes).failure().fault, Fault::NotRegular);
     }
+
+    void oldSelvesCanBeKeptBeforeAnyIsReplaced() {
+        put(at(u"a"_s), "old");
+        put(at(u"b"_s), "old");
+        QVERIFY(QFile::link(at(u"b"_s), at(u"link"_s)));
+        QStringList told;
+        const BeforeReplacing keep = [&](const QString& path) {
+            told += QFileInfo(path).fileName() + u':' + QString::fromLatin1(bytesOf(path));
+        };
+        QVERIFY(writeWholeFiles({{at(u"a"_s), "new"}, {at(u"new"_s), "new"}, {at(u"link"_s), "new"}}, keep));
+        QCOMPARE(told, (QStringList{u"a:old"_s, u"b:old"_s}));
+        QCOMPARE(bytesOf(at(u"b"_s)), "new");
+    }
 };
 
 QTEST_GUILESS_MAIN(TestFiles)

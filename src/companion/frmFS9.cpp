@@ -57,6 +57,7 @@ void frmFS9::Form_Load() {
     TwipsPerPixelY = static_cast<qint32>(roundHalfEven(services_.screen.twipsPerPixelY()));
     ZoomLevel = 0;
     wasMinimised_ = false;
+    hasPicture_ = false;
     chart_.emplace(c->Picture1, c->Image1, c->HScroll1, c->VScroll1,
                    TwipsPerPixel{TwipsPerPixelX, TwipsPerPixelY}, ZoomLevel);
     c->Picture1.setFocus();
@@ -64,7 +65,7 @@ void frmFS9::Form_Load() {
     keepOnTop(); // before the icon, which takes the window's handle
     addIcon();
     state_.CompanionMode = showsChart;
-    recordedWithoutPicture_ = LoadCompanionPicture() == Loaded::No;
+    LoadCompanionPicture();
 }
 
 void frmFS9::giveOwnTexts() {

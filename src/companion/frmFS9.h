@@ -90,7 +90,7 @@ private:
     qint32 ZoomLevel = 0; ///< zoom-in steps minus zoom-out steps since the picture was loaded
     std::unique_ptr<clsResize> Resizer;
     bool wasMinimised_ = false;
-    bool recordedWithoutPicture_ = false; ///< the chart that the window opened for could not be shown
+    bool hasPicture_ = false; ///< not yet, if the chart that the window opened for could not be shown
     std::optional<ChartFrame> chart_;
 };
 

@@ -25,8 +25,8 @@ frmFS9::Loaded frmFS9::LoadCompanionPicture() {
         tellOnceShown(Task::ShowChart);
         return Loaded::No;
     }
-    // What was recorded without a picture would scale every later one to the size of none.
-    if (std::exchange(recordedWithoutPicture_, false)) Resizer->ReInitialise();
+    // A layout recorded without a picture would scale every later one to the size of none.
+    if (!std::exchange(hasPicture_, true)) Resizer->recordAnew(c->Image1);
     c->Image1.setSpokenName(isChart ? StripExtension(state_.ChartFile) : state_.CurrentAirport);
     return Loaded::Yes;
 }

@@ -17,6 +17,11 @@ qint32 recorded(double value) {
     return fits ? static_cast<qint32>(rounded) : 0;
 }
 
+ControlPosition positionOf(Control& control) {
+    const auto read = [&control](Measure which) { return recorded(control.measure(which).value_or(0)); };
+    return {&control, read(Measure::Left), read(Measure::Top), read(Measure::Width), read(Measure::Height)};
+}
+
 /// While it lives, the window is not painted.
 class DrawingSuspended {
 public:
@@ -40,12 +45,13 @@ void clsResize::Initialise() {
     RecordedWidth = width;
     RecordedHeight = height;
     ControlPositions.clear();
-    for (Control* control : SourceForm_->controls()) {
-        const auto read = [control](Measure which) { return recorded(control->measure(which).value_or(0)); };
-        ControlPositions.push_back(
-            {control, read(Measure::Left), read(Measure::Top), read(Measure::Width), read(Measure::Height)});
-    }
+    for (Control* control : SourceForm_->controls()) ControlPositions.push_back(positionOf(*control));
     FirstTime = false;
+}
+
+void clsResize::recordAnew(const Control& control) {
+    for (ControlPosition& position : ControlPositions)
+        if (position.Ctl == &control) position = positionOf(*position.Ctl);
 }
 
 void clsResize::ResizeControls() {

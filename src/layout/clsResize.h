@@ -37,6 +37,10 @@ public:
     /// Records the layout as it is now.
     void ReInitialise() { Initialise(); }
 
+    /// Records one control's place as it is now, as though it had been there when the layout was recorded.
+    /// Before that there is nothing to correct.
+    void recordAnew(const Control& control);
+
     /// Makes the window `percentage` (0 to 255) of the screen wide and high, in its middle, and then scales
     /// the controls.
     void SizeFormToScreen(quint8 percentage);

@@ -5,10 +5,27 @@
 
 namespace quarvel {
 
+namespace {
+
+constexpr double sharpUpTo = 2; // times; further enlarged, a chart of hard squares is harder to read
+
+} // namespace
+
+/// A whole number of target pixels for each source pixel shows these as they are, and so does the mean up to
+/// twice the size: lines and print keep their edges on screens whose pixels are smaller than a chart's.
+void Axis::choose(int source, double stretched) {
+    const double times = stretched / source;
+    repeats_ = std::round(times);
+    if (stretched == repeats_ * source)
+        scale_ = Scale::Whole;
+    else
+        scale_ = times < 1 ? Scale::Smaller : times < sharpUpTo ? Scale::Sharp : Scale::Smooth;
+}
+
 void Axis::plan(int source, double stretched, int from, int count) {
+    choose(source, stretched);
     const double step = source / stretched; // source pixels a target pixel
-    scale_ = step > 1 ? Scale::Smaller : step < 1 ? Scale::Larger : Scale::Natural;
-    const double wanted = scale_ == Scale::Smaller ? std::ceil(step) + 1 : scale_ == Scale::Larger ? 2 : 1;
+    const double wanted = scale_ == Scale::Smaller ? std::ceil(step) + 1 : scale_ == Scale::Whole ? 1 : 2;
     taps_ = static_cast<int>(std::min(wanted, double(source)));
     const auto clampToPart = [&](double place) {
         return static_cast<int>(std::clamp<double>(place - from, 0, count));
@@ -22,10 +39,15 @@ void Axis::plan(int source, double stretched, int from, int count) {
     float* shares = shares_.data();
     for (std::size_t i = 0; i < pixels; ++i, shares += taps_) {
         const double x = double(from) + begin_ + static_cast<double>(i);
-        if (scale_ == Scale::Smaller)
-            average(x * step, (x + 1) * step, source, shares, first_[i]);
-        else
-            blend((x + 0.5) * step - 0.5, source, shares, first_[i]);
+        switch (scale_) {
+        case Scale::Whole:
+            first_[i] = static_cast<int>((x + 0.5) * step);
+            shares[0] = 1;
+            break;
+        case Scale::Smooth: blend((x + 0.5) * step - 0.5, source, shares, first_[i]); break;
+        case Scale::Smaller:
+        case Scale::Sharp: average(x * step, (x + 1) * step, source, shares, first_[i]); break;
+        }
     }
 }
 
@@ -40,8 +62,7 @@ void Axis::average(double from, double to, int source, float* shares, int& first
     }
 }
 
-/// The two pixels whose centres lie on either side of `at`, where 0 is the centre of the first pixel. At
-/// natural size the one tap stands at `at` itself.
+/// The two pixels whose centres lie on either side of `at`, where 0 is the centre of the first pixel.
 void Axis::blend(double at, int source, float* shares, int& first) const {
     const double inside = std::clamp<double>(at, 0, source - 1);
     first = std::min(static_cast<int>(inside), source - taps_);

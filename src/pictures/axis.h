@@ -21,7 +21,10 @@ public:
     [[nodiscard]] int end() const { return end_; }
     [[nodiscard]] bool isEmpty() const { return begin_ == end_; }
 
-    [[nodiscard]] bool isNatural() const { return scale_ == Scale::Natural; }
+    /// One target pixel for each source pixel.
+    [[nodiscard]] bool isNatural() const { return scale_ == Scale::Whole && repeats_ == 1; }
+    /// Every source pixel as a whole number of target pixels.
+    [[nodiscard]] bool isWhole() const { return scale_ == Scale::Whole; }
     [[nodiscard]] bool isSmaller() const { return scale_ == Scale::Smaller; }
     [[nodiscard]] int taps() const { return taps_; }
     /// The first source pixel of target pixel `i`, begin() <= i < end(); it never falls from one to the next,
@@ -33,11 +36,13 @@ public:
     }
 
 private:
-    enum class Scale { Smaller, Natural, Larger };
+    enum class Scale { Smaller, Whole, Sharp, Smooth };
+    void choose(int source, double stretched);
     void average(double from, double to, int source, float* shares, int& first) const;
     void blend(double at, int source, float* shares, int& first) const;
 
-    Scale scale_ = Scale::Natural;
+    Scale scale_ = Scale::Whole;
+    double repeats_ = 1; // target pixels for each source pixel of a whole scale
     int begin_ = 0;
     int end_ = 0;
     int taps_ = 1;

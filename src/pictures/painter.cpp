@@ -24,7 +24,12 @@ struct Scratch {
 void copyRow(const Picture& picture, const Scratch& scratch, int y, std::uint32_t* line) {
     const std::uint32_t* const palette = picture.palette().data();
     const Axis& across = scratch.across;
-    const std::uint8_t* const from = picture.row(scratch.down.first(y)) + across.first(across.begin());
+    const std::uint8_t* const row = picture.row(scratch.down.first(y));
+    if (!across.isNatural()) {
+        for (int x = across.begin(); x < across.end(); ++x) line[x] = palette[row[across.first(x)]];
+        return;
+    }
+    const std::uint8_t* const from = row + across.first(across.begin());
     std::uint32_t* const to = line + across.begin();
     const int count = across.end() - across.begin();
     for (int x = 0; x < count; ++x) to[x] = palette[from[x]];
@@ -47,8 +52,17 @@ void paintRows(const Scratch& scratch, QImage& target, const PaintRow& paintRow)
     }
 }
 
-void paintNatural(const Picture& picture, const Scratch& scratch, QImage& target) {
-    paintRows(scratch, target, [&](int y, std::uint32_t* line) { copyRow(picture, scratch, y, line); });
+void paintDots(const Picture& picture, const Scratch& scratch, QImage& target) {
+    const Axis& down = scratch.down;
+    const Axis& across = scratch.across;
+    paintRows(scratch, target, [&](int y, std::uint32_t* line) {
+        if (y == down.begin() || down.first(y) != down.first(y - 1)) {
+            copyRow(picture, scratch, y, line);
+            return;
+        }
+        const auto* above = reinterpret_cast<const std::uint32_t*>(target.constScanLine(y - 1));
+        std::copy(above + across.begin(), above + across.end(), line + across.begin());
+    });
 }
 
 void paintGrey(const Picture& picture, Scratch& scratch, QImage& target) {
@@ -78,8 +92,8 @@ void paintColours(const Picture& picture, Scratch& scratch, QImage& target) {
 }
 
 void paintPart(const Picture& picture, Scratch& scratch, QImage& target) {
-    if (scratch.across.isNatural() && scratch.down.isNatural())
-        paintNatural(picture, scratch, target);
+    if (scratch.across.isWhole() && scratch.down.isWhole())
+        paintDots(picture, scratch, target);
     else if (picture.isGrey() && scratch.down.isSmaller()) // enlarged, passing over blank paper is worth more
         paintGrey(picture, scratch, target);
     else

@@ -17,7 +17,8 @@ namespace {
 std::vector<double> shares(int source, double stretched, int x) {
     std::vector<double> made(static_cast<std::size_t>(source));
     const double step = source / stretched;
-    if (step > 1) {
+    const double times = stretched / source;
+    if (times < 2 || times == std::floor(times)) {
         const double right = std::min((x + 1) * step, double(source));
         for (int i = 0; i < source; ++i)
             made[size_t(i)] =
@@ -60,6 +61,8 @@ private Q_SLOTS:
                                                          {{40, 30}, {122, 69.7}, 0.51},  // larger
                                                          {{50, 90}, {131.2, 33.3}, 1.1}, // wider and lower
                                                          {{50, 40}, {50, 13.37}, 1.1},   // only lower
+                                                         {{40, 30}, {60, 45}, 0.51},     // every dot 1.5
+                                                         {{40, 30}, {80, 90}, 0.001},    // whole dots
                                                          {{1, 1}, {5, 0.7}, 0.51}}) {
             GifRecipe made = recipe(size, 256, Packing::Clearing);
             filtersWithin(0.51, decoded(made), stretched); // rounded once, at the end
@@ -94,7 +97,8 @@ private:
 
     static void paintsPartsAsCropsOfTheWhole(const Picture& picture) {
         QRandomGenerator random(3);
-        for (const QSizeF stretched : {QSizeF(90.1, 66.6), {300, 200}, {555.5, 640.2}, {120.4, 300.3}}) {
+        for (const QSizeF stretched :
+             {QSizeF(90.1, 66.6), {300, 200}, {600, 600}, {555.5, 640.2}, {120.4, 300.3}}) {
             const QRect everything = QRect(QPoint(0, 0), stretched.toSize()).adjusted(-10, -10, 10, 10);
             QImage whole(everything.size(), QImage::Format_RGB32);
             paintPicture(picture, stretched, everything, whole);

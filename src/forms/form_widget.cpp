@@ -26,6 +26,11 @@ QWidget& insideOf(QWidget& window, const FormDesign& design) {
     return design.menus == Menus::Bar ? *new QWidget(&window) : window;
 }
 
+/// A window that cannot grow has no button for it.
+constexpr Qt::WindowFlags fixedWindow = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                        Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                                        Qt::WindowCloseButtonHint;
+
 int buttonCode(Qt::MouseButtons buttons) {
     return (buttons & Qt::LeftButton ? 1 : 0) | (buttons & Qt::RightButton ? 2 : 0) |
            (buttons & Qt::MiddleButton ? 4 : 0);
@@ -51,10 +56,14 @@ FormWidget::FormWidget(Form& form, const FormDesign& design)
     setWindowTitle(QString::fromUtf16(design.caption));
     if (design.background.isValid()) setPalette(QPalette(colour::face, design.background));
     const QSize client(pixels(design.clientWidth), pixels(design.clientHeight));
-    if (design.border == Border::Fixed)
+    if (design.border == Border::Fixed) {
         setFixedSize(client);
-    else
+        setWindowFlags(fixedWindow);
+    } else {
         resize(client);
+    }
+    setMouseTracking(
+        true); // beneath a menu bar the inside is a widget of its own, and leaves its moves to this
     inside().setMouseTracking(true);
     if (design.menus == Menus::Bar) {
         menuBar_ = new QMenuBar(this);

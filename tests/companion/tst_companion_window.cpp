@@ -56,6 +56,10 @@ private Q_SLOTS:
         QWidget* window = test.companionWindow();
         QVERIFY(!test.viewWindow()->isVisible());
         QVERIFY(window->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+        QVERIFY(window->windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
+        const Qt::WindowFlags fixed = test.viewWindow()->windowFlags(); // which cannot grow
+        QVERIFY(!fixed.testFlag(Qt::WindowMaximizeButtonHint) &&
+                fixed.testFlag(Qt::WindowMinimizeButtonHint));
         QCOMPARE(test.image()->parentWidget()->geometry(), QRect(-8, 0, 377, 433));
         QCOMPARE(test.image()->parentWidget()->parentWidget()->size(), QSize(384, 431));
         QCOMPARE(test.image()->geometry(), QRect(QPoint(-1, -1), chart));
@@ -98,10 +102,20 @@ private Q_SLOTS:
         test.addChart(u"aeroporti/LIRF/Aeroporto/LIRF.gif"_s, photo);
         test.click(u"Command4"_s);
         QTRY_COMPARE(test.boxes.shown.size(), 2);
+        test.companionWindow()->showMaximized();
+        QTRY_VERIFY(test.companionWindow()->width() > 384);
         test.choose(u"mnuAeroporto"_s); // the first picture, from which sizes are in proportion
-        QCOMPARE(test.image()->size(), photo);
+        QTRY_COMPARE(test.companionWindow()->width(), 384);
+        QTRY_COMPARE(test.image()->size(), photo);
         test.companionWindow()->resize(test.companionWindow()->size() + QSize(384, 0));
         QTRY_COMPARE(test.image()->size(), QSize(40, 30));
+        test.choose(u"mnuNuovaproc"_s);
+        test.click(u"Command4"_s); // once more nothing to show, and then a chart that is there
+        test.choose(u"mnuNuovaproc"_s);
+        test.addChart(u"aeroporti/LIRF/Sid/Kenn1.GIF"_s, chart);
+        test.click(u"Command4"_s);
+        QCOMPARE(test.image()->geometry(), QRect(QPoint(-1, -1), chart));
+        QCOMPARE(test.image()->parentWidget()->geometry(), QRect(-8, 0, 377, 433));
     }
 
     void resizingScalesFromTheFirstLayout() {
@@ -137,6 +151,17 @@ private Q_SLOTS:
         driver.moveTo({280, 290});
         QCOMPARE(test.image()->pos(), QPoint(-22, -41));
         driver.release({280, 290});
+    }
+
+    void pointerOverTheBareSurfaceCallsItToItsNormalState() {
+        Companion test;
+        QWidget* window = test.companionWindow();
+        window->showMaximized();
+        QTest::mouseMove(window->windowHandle(), {100, 200}); // on the chart
+        QVERIFY(window->isMaximized());
+        test.image()->parentWidget()->hide();
+        QTest::mouseMove(window->windowHandle(), {101, 200});
+        QVERIFY(!window->isMaximized());
     }
 
     void minimisedLivesOnAsTheIcon() {

@@ -4,6 +4,7 @@
 #include "forms/look.h"
 #include "platform/beside.h"
 #include "platform/desktop_notification_area.h"
+#include "platform/fitted_application.h"
 #include "platform/services.h"
 #include "platform/window_system.h"
 #include "presenter/airport_presenter.h"
@@ -19,13 +20,14 @@ int main(int argc, char** argv) {
     quarvel::chooseWindowSystem();
     quarvel::settleEnvironment();
     quarvel::Beside fontList(quarvel::readFontList);
-    QApplication application(argc, argv);
+    quarvel::FittedApplication application(argc, argv);
     fontList.finish();
+    application.fit(quarvel::Program::largestWindow());
     const quarvel::Beside faces(quarvel::findFaces);
     QApplication::setApplicationName(u"Quarvel"_s);
     QApplication::setDesktopFileName(u"quarvel"_s);
     QApplication::setQuitOnLastWindowClosed(false); // windows that wait behind others are only hidden
-    quarvel::applyProgramLook(application);
+    quarvel::applyProgramLook(*application);
 
     const quarvel::ProgramFolder folder = quarvel::findProgramFolder(QApplication::applicationDirPath());
     const quarvel::Result<void> laidOut = quarvel::layOutProgramFolder(folder);

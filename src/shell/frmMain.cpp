@@ -7,8 +7,8 @@ namespace {
 
 constexpr FormDesign design{.name = "frmMain",
                             .caption = u"Quarvel - LE CARTINE PROCEDURALI SEMPRE A PORTATA DI MANO",
-                            .clientWidth = 10305,
-                            .clientHeight = 8925,
+                            .clientWidth = frmMain::insideTwips.width(),
+                            .clientHeight = frmMain::insideTwips.height(),
                             .background = colour::window};
 
 } // namespace

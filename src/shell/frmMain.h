@@ -11,6 +11,7 @@
 #include "shell/frmMain_controls.h"
 #include "state/process_state.h"
 
+#include <QSizeF>
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -31,6 +32,8 @@ struct frmMainNeeds {
 /// The main window: finds and opens airports, shows and takes their data, and leads to everything else.
 class frmMain : public FormOf<frmMainControls> {
 public:
+    static constexpr QSizeF insideTwips{10305, 8925};
+
     explicit frmMain(const frmMainNeeds& needs);
 
     /// Where a mail from the information frame goes; the frame shows the same address.

@@ -16,6 +16,10 @@ Program::Program(const QString& programFolder, const Services& services, Present
     QCoreApplication::installTranslator(&toolkitTexts_);
 }
 
+QSizeF Program::largestWindow() {
+    return frmMain::insideTwips.expandedTo(frmView::insideTwips) / twipsPerPixel;
+}
+
 void Program::show(WindowName name) {
     Form& form = window(name);
     if (!form.isLoaded()) inLoadingOrder_.push_back(&form);

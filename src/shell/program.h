@@ -12,6 +12,7 @@
 #include "viewer/frmView.h"
 
 #include <QObject>
+#include <QSizeF>
 #include <QString>
 #include <vector>
 
@@ -22,6 +23,9 @@ class Program : public Windows {
 public:
     /// `programFolder` holds the archive, the language files, the settings and the sound.
     Program(const QString& programFolder, const Services& services, Presenter& presenter);
+
+    /// The inside of the largest of the windows whose size is fixed, in logical pixels.
+    [[nodiscard]] static QSizeF largestWindow();
 
     void show(WindowName name) override;
     /// Tells a failure of the start, before the main window is shown: what the window goes on to say may

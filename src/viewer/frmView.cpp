@@ -9,8 +9,8 @@ using namespace Qt::StringLiterals;
 namespace quarvel {
 namespace {
 
-constexpr double clientWidth = 11280;
-constexpr double clientHeight = 8880;
+constexpr double clientWidth = frmView::insideTwips.width();
+constexpr double clientHeight = frmView::insideTwips.height();
 
 // The window measures itself in a scale of its own, 12.2888 by 15 units; the chart frame's size in these
 // units is what the viewport compares the chart's pixels with.

@@ -11,6 +11,7 @@
 #include "viewer/frmView_controls.h"
 #include "viewer/viewport/chart_frame.h"
 
+#include <QSizeF>
 #include <QString>
 #include <optional>
 #include <vector>
@@ -30,6 +31,8 @@ struct frmViewNeeds {
 /// The chart viewer: the charts of the current airport by family, with their notes, zoomed and panned.
 class frmView : public FormOf<frmViewControls> {
 public:
+    static constexpr QSizeF insideTwips{11280, 8880};
+
     explicit frmView(const frmViewNeeds& needs);
 
     // The window's fields; they survive its unloading.

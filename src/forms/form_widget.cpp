@@ -5,6 +5,7 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QHideEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -138,6 +139,17 @@ void FormWidget::resizeEvent(QResizeEvent* event) {
     if (form_ != nullptr) form_->Form_Resize();
 }
 
+void FormWidget::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    if (!event->spontaneous()) hiddenAt_ = isMaximized() ? normalGeometry() : geometry();
+}
+
+void FormWidget::putBack() {
+    // Some window managers take the frame off a hidden window and leave the window where the frame was, a
+    // title bar higher up.
+    if (const auto place = std::exchange(hiddenAt_, {})) setGeometry(*place);
+}
+
 void FormWidget::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() != QEvent::WindowStateChange || !isVisible()) return;
@@ -169,6 +181,7 @@ void FormWidget::setMinimisedState() {
 
 void FormWidget::showInTaskBar() {
     normalWhenShown_ = false;
+    putBack();
     // The window manager minimises what it manages: a window that is shown minimised comes up as it was.
     setAttribute(Qt::WA_ShowWithoutActivating);
     showNormal();
@@ -177,6 +190,7 @@ void FormWidget::showInTaskBar() {
 }
 
 void FormWidget::bringBack() {
+    putBack();
     if (std::exchange(normalWhenShown_, false))
         showNormal();
     else

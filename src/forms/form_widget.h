@@ -50,6 +50,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -58,6 +59,7 @@ private:
     void activated();
     void centreOuterFrame();
     void becomeMinimised(bool minimised);
+    void putBack();
 
     Form* form_;
     QMenuBar* menuBar_ = nullptr;
@@ -68,6 +70,7 @@ private:
     // The toolkit's own account of a hidden window's state follows the window manager's, which forgets it.
     bool minimised_ = false;
     bool normalWhenShown_ = false;
+    std::optional<QRect> hiddenAt_; ///< place on the screen, without the frame, since the window is hidden
     std::optional<QRect> centreOn_; ///< the screen, until the frame around the window is known
 };
 

@@ -148,10 +148,11 @@ private:
         const QString icao = TestProgram::control<QLineEdit>(main, u"txtRwy(38)"_s)->text();
         if (!checkAirportName(name, NameUse::New)) return targets;
         for (const auto& folder : {u""_s, u"/Sid"_s, u"/Star"_s, u"/Approach"_s, u"/Aeroporto"_s})
-            add(paths.airportFolder(name) + folder, nullptr);
+            add(paths.airportFolder(name).value() + folder, nullptr);
         if (!TestProgram::control(main, u"cmdSave"_s)->isVisible() || !staysInFolder(icao)) return targets;
-        add(paths.dataFileForWriting(name), isRecord);
-        add(paths.presenterTextForWriting(name, icao), [](const QByteArray& text) { return text.isEmpty(); });
+        add(paths.dataFileForWriting(name).value(), isRecord);
+        add(paths.presenterTextForWriting(name, icao).value(),
+            [](const QByteArray& text) { return text.isEmpty(); });
         return targets;
     }
 

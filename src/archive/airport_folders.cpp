@@ -1,13 +1,15 @@
 #include "archive/airport_folders.h"
 
 #include "archive/name_rules.h"
+#include "files/lookup.h"
 #include "files/staging_folder.h"
+#include "files/system_error.h"
 #include "files/whole_copy.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <cerrno>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace quarvel {
 
@@ -15,15 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-Failure makeFailure(const QString& path, int error) {
-    switch (error) {
-    case ENOSPC:
-    case EDQUOT: return {Fault::DiskFull, path, {}};
-    case ENAMETOOLONG:
-    case EINVAL: return {Fault::BadName, path, {}};
-    default: return {Fault::Unwritable, path, {}};
-    }
-}
+const QStringList subFolders = {u"Sid"_s, u"Star"_s, u"Approach"_s, u"Aeroporto"_s};
 
 /// 0, or the system's error number.
 int makeFolder(const QString& path) {
@@ -31,19 +25,27 @@ int makeFolder(const QString& path) {
     return ::mkdir(QFile::encodeName(path).constData(), 0777) == 0 ? 0 : errno;
 }
 
-bool anyEntry(const QString& path) {
-    struct stat info {};
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
+bool isEmptyFolder(const QString& path) {
+    const Result<QStringList> names = entryNames(path);
+    return names && names.value().isEmpty();
 }
+
+void removeFolder(const QString& path) { ::rmdir(QFile::encodeName(path).constData()); }
 
 } // namespace
 
-Result<void> createAirportFolders(const ArchivePaths& paths, const QString& name) {
-    if (Result<void> checked = checkAirportName(name, NameUse::New); !checked) return checked;
+Result<AirportFolders> createAirportFolders(const ArchivePaths& paths, const QString& name) {
+    if (Result<void> checked = checkAirportName(name, NameUse::New); !checked) return checked.failure();
     const QString archive = paths.archiveFolder();
-    if (!QFileInfo(archive).isDir()) return Failure{Fault::NotFound, archive, {}};
-    const QString airport = paths.airportFolder(name);
-    if (anyEntry(airport)) return {};
+    const Result<bool> hasArchive = isFolder(archive);
+    if (!hasArchive) return hasArchive.failure();
+    if (!hasArchive.value()) return Failure{Fault::NotFound, archive, {}};
+    const Result<QString> found = paths.airportFolder(name);
+    if (!found) return found.failure();
+    const QString& airport = found.value();
+    const Result<bool> there = isThere(airport);
+    if (!there) return there.failure();
+    if (there.value()) return AirportFolders::WereThere;
 
     // Made aside and moved to their place in one step: an airport without all of its folders could not be
     // saved.
@@ -51,10 +53,22 @@ Result<void> createAirportFolders(const ArchivePaths& paths, const QString& name
     const auto staging = StagingFolder::make(archive);
     if (!staging) return Failure{staging.failure().fault, airport, {}};
     const QString staged = staging.value()->path() + u'/' + name;
-    for (const auto& part : {u""_s, u"/Sid"_s, u"/Star"_s, u"/Approach"_s, u"/Aeroporto"_s})
-        if (const int error = makeFolder(staged + part); error != 0)
-            return makeFailure(airport + part, error);
-    return moveToFreeName(staged, airport);
+    if (const int error = makeFolder(staged); error != 0) return writeFailure(airport, error);
+    for (const QString& part : subFolders)
+        if (const int error = makeFolder(staged + u'/' + part); error != 0)
+            return writeFailure(airport + u'/' + part, error);
+    if (const Result<void> moved = moveToFreeName(staged, airport); !moved) return moved.failure();
+    // Somebody else's may have been quicker.
+    return isThere(staged).valueOr(true) ? AirportFolders::WereThere : AirportFolders::Made;
+}
+
+void removeEmptyAirportFolders(const QString& airport) {
+    const Result<QStringList> names = entryNames(airport);
+    if (!names || names.value().size() != subFolders.size()) return;
+    for (const QString& part : subFolders)
+        if (!isEmptyFolder(airport + u'/' + part)) return;
+    for (const QString& part : subFolders) removeFolder(airport + u'/' + part);
+    removeFolder(airport);
 }
 
 } // namespace quarvel

@@ -1,5 +1,8 @@
 #include "archive/folder_entries.h"
 
+#include "files/folder_reader.h"
+#include "files/system_error.h"
+
 #include <QChar>
 #include <QFile>
 #include <QList>
@@ -9,7 +12,6 @@
 #include <cerrno>
 #include <cstring>
 #include <linux/magic.h>
-#include <memory>
 #include <numeric>
 #include <sys/stat.h>
 #include <sys/statfs.h>
@@ -23,10 +25,6 @@ struct KeyedEntry {
 };
 
 namespace {
-
-struct DirCloser {
-    void operator()(DIR* dir) const { ::closedir(dir); }
-};
 
 /// Appends the folded form of a stored name. Nearly all names are ASCII, and are folded byte by byte.
 void appendFolded(std::string& out, std::string_view name) {
@@ -104,7 +102,8 @@ EntryKind kindInFolder(const dirent& entry) {
 
 EntryKind kindOnDisk(const QByteArray& path) {
     struct stat info {};
-    if (::stat(path.constData(), &info) != 0) return EntryKind::Other;
+    if (::stat(path.constData(), &info) != 0)
+        return meansAbsent(errno) || errno == ELOOP ? EntryKind::Other : EntryKind::Folder;
     return S_ISDIR(info.st_mode)   ? EntryKind::Folder
            : S_ISREG(info.st_mode) ? EntryKind::File
                                    : EntryKind::Other;
@@ -117,21 +116,20 @@ QByteArray foldedName(const QString& name) {
 }
 
 FolderEntries::FolderEntries(QByteArray folder) : folder_(std::move(folder)) {
-    const std::unique_ptr<DIR, DirCloser> dir(::opendir(folder_.constData()));
-    if (!dir) return;
+    FolderReader reader(folder_);
+    if (reader.error() != 0) return;
     timespec now{};
     ::clock_gettime(CLOCK_REALTIME, &now);
     readAt_ = nanoseconds(now);
     struct stat info {};
-    tellsChanges_ = ::fstat(::dirfd(dir.get()), &info) == 0 && tellsChanges(::dirfd(dir.get()));
+    tellsChanges_ = ::fstat(reader.descriptor(), &info) == 0 && tellsChanges(reader.descriptor());
     stamp_ = stampOf(info);
-    read(dir.get());
+    read(reader);
     sort();
 }
 
-void FolderEntries::read(DIR* dir) {
-    errno = 0;
-    while (const dirent* found = ::readdir(dir)) { // NOLINT(concurrency-mt-unsafe): a stream of its own
+void FolderEntries::read(FolderReader& reader) {
+    while (const dirent* found = reader.next()) {
         if (found->d_name[0] == '.') continue;
         const EntryKind kind = kindInFolder(*found);
         if (kind == EntryKind::Other) continue;
@@ -143,7 +141,10 @@ void FolderEntries::read(DIR* dir) {
                             static_cast<quint16>(name.size()), kind});
         names_.append(name);
     }
-    if (errno != 0) tellsChanges_ = false; // half read: it is not to be kept
+    readable_ = reader.error() == 0;
+    if (readable_) return;
+    entries_.clear(); // half a list is none, and not to be kept
+    tellsChanges_ = false;
 }
 
 void FolderEntries::sort() {

@@ -21,7 +21,8 @@ enum class EntryKind : quint8 {
 
 /// What an entry just read is, without a look at the entry itself.
 [[nodiscard]] EntryKind kindInFolder(const dirent& entry);
-/// What an entry is, links followed; never Loose.
+/// What an entry is, links followed; never Loose. One that cannot be looked at just now counts as a folder,
+/// as airports are: opening it tells why.
 [[nodiscard]] EntryKind kindOnDisk(const QByteArray& path);
 
 /// A name composed and case-folded, in UTF-8, as names are compared. Folding keeps the order of code points,
@@ -44,8 +45,10 @@ struct FolderStamp {
 /// come from the folder itself, without a look at each entry.
 class FolderEntries {
 public:
-    /// Reads `folder`; one that cannot be read has no entries.
+    /// Reads `folder`; one that cannot be read, or not to its end, has no entries.
     explicit FolderEntries(QByteArray folder);
+
+    [[nodiscard]] bool areReadable() const { return readable_; }
 
     [[nodiscard]] std::size_t size() const { return entries_.size(); }
     [[nodiscard]] std::string_view folded(std::size_t entry) const;
@@ -72,7 +75,7 @@ private:
         EntryKind kind;
     };
 
-    void read(DIR* dir);
+    void read(class FolderReader& reader);
     void sort();
     void sortBehind(std::size_t depth, struct KeyedEntry* begin, struct KeyedEntry* end) const;
     [[nodiscard]] std::string_view folded(const Entry& entry) const;
@@ -81,6 +84,7 @@ private:
     QByteArray folder_;
     std::string names_; ///< each name, case-folded and as stored on disk, one after the other
     std::vector<Entry> entries_;
+    bool readable_ = false;
     bool hasLooseKinds_ = false;
     bool tellsChanges_ = false; ///< the stamp tells of every change
     FolderStamp stamp_;         ///< of the time before the entries were read

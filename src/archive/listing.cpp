@@ -1,18 +1,14 @@
 #include "archive/listing.h"
 
+#include "files/folder_reader.h"
+
 #include <QByteArray>
 #include <QFile>
-#include <dirent.h>
-#include <memory>
 #include <optional>
 #include <string_view>
 
 namespace quarvel {
 namespace {
-
-struct DirCloser {
-    void operator()(DIR* dir) const { ::closedir(dir); }
-};
 
 /// The place after the character at `at` in UTF-8 text.
 std::size_t nextCharacter(std::string_view text, std::size_t at) {
@@ -52,15 +48,14 @@ bool beginsLike(std::string_view text, std::string_view pattern) {
 
 ArchiveState archiveState(const QString& folder) {
     const QByteArray path = QFile::encodeName(folder);
-    const std::unique_ptr<DIR, DirCloser> dir(::opendir(path.constData()));
-    if (!dir) return ArchiveState::Unreadable;
-    while (const dirent* found = ::readdir(dir.get())) { // NOLINT(concurrency-mt-unsafe): a stream of its own
+    FolderReader reader(path);
+    while (const dirent* found = reader.next()) {
         if (found->d_name[0] == '.') continue;
         EntryKind kind = kindInFolder(*found);
         if (kind == EntryKind::Loose) kind = kindOnDisk(path + '/' + found->d_name);
         if (kind != EntryKind::Other) return ArchiveState::Filled;
     }
-    return ArchiveState::Empty;
+    return reader.error() == 0 ? ArchiveState::Empty : ArchiveState::Unreadable;
 }
 
 ArchiveListing ArchiveSearch::list(const QString& folder, const QString& typed) {

@@ -25,6 +25,8 @@ public:
     /// No entries.
     ArchiveListing() = default;
 
+    /// Whether the folder could be read; without any text to look for, it always could.
+    [[nodiscard]] bool isReadable() const { return !entries_ || entries_->areReadable(); }
     [[nodiscard]] int size() const { return static_cast<int>(picked_.empty() ? count_ : picked_.size()); }
     /// The row's text: a folder's name between square brackets, a file's name bare.
     [[nodiscard]] QString text(int row) const;

@@ -7,20 +7,18 @@ namespace quarvel {
 
 using namespace Qt::StringLiterals;
 
-bool hasDataFile(const ArchivePaths& paths, const QString& name) {
-    return holdsExactly(paths.generalFolder(name), name + u".txt"_s);
+Result<bool> hasDataFile(const ArchivePaths& paths, const QString& name) {
+    return paths.generalFolder(name).then(
+        [&](const QString& folder) { return holdsExactly(folder, name + u".txt"_s); });
 }
 
-Result<void> checkLookedInto(const ArchivePaths& paths, const QString& name) {
-    const Result<QStringList> files = listFiles(paths.generalFolder(name));
-    if (files || files.failure().fault == Fault::NotFound) return {};
-    return files.failure();
-}
-
-bool hasPicture(const ArchivePaths& paths, const QString& name, const QString& icao) {
-    const QString folder = paths.generalFolder(name);
+Result<bool> hasPicture(const ArchivePaths& paths, const QString& name, const QString& icao) {
+    const Result<QString> folder = paths.generalFolder(name);
+    if (!folder) return folder.failure();
     const QString code = trimBlanks(icao);
-    return holdsExactly(folder, code + u".gif"_s) || holdsExactly(folder, code.toLower() + u".gif"_s);
+    const Result<bool> asWritten = holdsExactly(folder.value(), code + u".gif"_s);
+    if (!asWritten || asWritten.value()) return asWritten;
+    return holdsExactly(folder.value(), code.toLower() + u".gif"_s);
 }
 
 } // namespace quarvel

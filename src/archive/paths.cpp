@@ -23,44 +23,50 @@ QString presenterRelative(const QString& name, const QString& icao) {
 
 ArchivePaths::ArchivePaths(QString programFolder) : programFolder_(std::move(programFolder)) {}
 
-QString ArchivePaths::archiveFolder() const { return resolvePath(programFolder_, u"aeroporti"_s); }
+QString ArchivePaths::archiveFolder() const {
+    return resolvePath(programFolder_, u"aeroporti"_s).valueOr(programFolder_ + u"/aeroporti"_s);
+}
 
-QString ArchivePaths::airportFolder(const QString& name) const {
+Result<QString> ArchivePaths::airportFolder(const QString& name) const {
     return resolvePath(programFolder_, airportRelative(name));
 }
 
-QString ArchivePaths::generalFolder(const QString& name) const {
+Result<QString> ArchivePaths::generalFolder(const QString& name) const {
     return resolvePath(programFolder_, generalRelative(name));
 }
 
-QString ArchivePaths::dataFile(const QString& name) const {
+Result<QString> ArchivePaths::dataFile(const QString& name) const {
     return resolvePath(programFolder_, dataRelative(name));
 }
 
-QString ArchivePaths::dataFileForWriting(const QString& name) const {
+Result<QString> ArchivePaths::dataFileForWriting(const QString& name) const {
     return resolveForWriting(programFolder_, dataRelative(name));
 }
 
-QString ArchivePaths::picture(const QString& name, const QString& icao) const {
-    const QString folder = generalFolder(name);
+Result<QString> ArchivePaths::picture(const QString& name, const QString& icao) const {
+    const Result<QString> folder = generalFolder(name);
+    if (!folder) return folder;
     const QString file = trimBlanks(icao) + u".gif"_s;
     // The lower-case form goes before any other mixture: it is the one that the opening check may have found.
-    if (!holdsExactly(folder, file) && holdsExactly(folder, file.toLower()))
-        return folder + u'/' + file.toLower();
-    return resolvePath(folder, file);
+    for (const QString& exact : {file, file.toLower()}) {
+        const Result<bool> held = holdsExactly(folder.value(), exact);
+        if (!held) return held.failure();
+        if (held.value()) return folder.value() + u'/' + exact;
+    }
+    return resolvePath(folder.value(), file);
 }
 
-QString ArchivePaths::presenterText(const QString& name, const QString& icao) const {
+Result<QString> ArchivePaths::presenterText(const QString& name, const QString& icao) const {
     return resolvePath(programFolder_, presenterRelative(name, icao));
 }
 
-QString ArchivePaths::presenterTextForWriting(const QString& name, const QString& icao) const {
+Result<QString> ArchivePaths::presenterTextForWriting(const QString& name, const QString& icao) const {
     return resolveForWriting(programFolder_, presenterRelative(name, icao));
 }
 
-QString ArchivePaths::familyFolder(const QString& name, const QString& family) const {
-    const QString folder = resolvePath(programFolder_, airportRelative(name) + u'/' + family);
-    return folder.isEmpty() ? folder : folder + u'/';
+Result<QString> ArchivePaths::familyFolder(const QString& name, const QString& family) const {
+    const Result<QString> folder = resolvePath(programFolder_, airportRelative(name) + u'/' + family);
+    return folder ? Result<QString>(folder.value() + u'/') : folder;
 }
 
 } // namespace quarvel

@@ -1,10 +1,9 @@
 #include "archive/program_folder.h"
 
-#include "archive/paths.h"
+#include "files/lookup.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <pwd.h>
 #include <unistd.h>
 
@@ -47,8 +46,11 @@ ProgramFolder findProgramFolder(const QString& executableFolder) {
     Surroundings around;
     around.executableFolder = executableFolder;
     around.userDataFolder = userDataFolder();
-    around.archiveBeside = QFileInfo(ArchivePaths(executableFolder).archiveFolder()).isDir();
-    around.starterInstalled = QFileInfo(starterFolder(executableFolder)).isDir();
+    around.starterInstalled = isFolder(starterFolder(executableFolder)).valueOr(true);
+    // A portable program that cannot see its archive for a moment shall say so, not begin another elsewhere.
+    around.archiveBeside = resolvePath(executableFolder, u"aeroporti"_s)
+                               .then([](const QString& path) { return isFolder(path); })
+                               .valueOr(!around.starterInstalled);
     around.executableFolderWritable =
         ::access(QFile::encodeName(executableFolder).constData(), W_OK | X_OK) == 0;
     return chooseProgramFolder(around);

@@ -14,9 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A record is 39 short texts; a file beyond this is something else under a data file's name.
-constexpr qint64 recordFileLimitBytes = 1 << 20;
-
 /// Takes values one after the other from text in the manner of comma-separated input.
 class ValueReader {
 public:
@@ -75,6 +72,7 @@ Result<QByteArray> recordBytes(const AirportRecord& record, const QString& path)
         if (!encoded.refused.isEmpty()) return Failure{Fault::NotInCodePage, path, encoded.refused};
         bytes += '"' + encoded.bytes + "\"\r\n";
     }
+    if (bytes.size() > largestRecordBytes) return Failure{Fault::TooLarge, path, {}};
     return bytes;
 }
 
@@ -92,7 +90,7 @@ Result<AirportRecord> parseRecord(const QByteArray& bytes, const QString& path) 
 }
 
 Result<AirportRecord> readRecord(const QString& path) {
-    const Result<QByteArray> bytes = readWholeFile(path, recordFileLimitBytes);
+    const Result<QByteArray> bytes = readWholeFile(path, largestRecordBytes);
     if (!bytes) return bytes.failure();
     return parseRecord(bytes.value(), path);
 }
@@ -100,7 +98,8 @@ Result<AirportRecord> readRecord(const QString& path) {
 Result<void> writeRecord(const QString& path, const AirportRecord& record) {
     const Result<QByteArray> bytes = recordBytes(record, path);
     if (!bytes) return bytes.failure();
-    return writeWholeFile(path, bytes.value());
+    const Result<Written> written = writeWholeFile(path, bytes.value());
+    return written ? Result<void>() : written.failure();
 }
 
 } // namespace quarvel

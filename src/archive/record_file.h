@@ -8,10 +8,14 @@
 
 namespace quarvel {
 
+/// A record is 39 short texts; a file beyond this is something else under a data file's name. What is read is
+/// not larger, and neither is what is written.
+inline constexpr qint64 largestRecordBytes = qint64{1024} * 1024;
+
 /// The bytes of a data file: 39 lines in Windows-1252, each a value in double quotes, ended by CR LF. An
 /// empty value is written as ---; a line break inside a value as a blank, a double quote as the closing
 /// typographic quote, which the format holds. Fails with NotInCodePage (detail: the character that cannot be
-/// stored).
+/// stored) and TooLarge.
 [[nodiscard]] Result<QByteArray> recordBytes(const AirportRecord& record, const QString& path);
 
 /// Reads 39 values from a data file's bytes, tolerantly: blanks before a value are skipped; a quoted value

@@ -5,17 +5,28 @@
 #include "archive/record_file.h"
 #include "files/whole_file.h"
 
+#include <QFileInfo>
+
 namespace quarvel {
 
-Result<void> saveAirport(const ArchivePaths& paths, const QString& name, const AirportRecord& record) {
+Result<Written> saveAirport(const ArchivePaths& paths, const QString& name, const AirportRecord& record) {
     if (const Result<void> allowed = checkAirportName(name, NameUse::New); !allowed) return allowed.failure();
     const QString& icao = record.values[IcaoCode];
     if (!staysInFolder(icao)) return Failure{Fault::BadName, icao, {}};
-    if (const Result<void> made = createAirportFolders(paths, name); !made) return made.failure();
-    const QString dataFile = paths.dataFileForWriting(name);
-    const Result<QByteArray> bytes = recordBytes(record, dataFile);
+    const Result<QString> dataFile = paths.dataFileForWriting(name);
+    if (!dataFile) return dataFile.failure();
+    const Result<QString> presenterText = paths.presenterTextForWriting(name, icao);
+    if (!presenterText) return presenterText.failure();
+    const Result<QByteArray> bytes = recordBytes(record, dataFile.value());
     if (!bytes) return bytes.failure();
-    return writeWholeFiles({{dataFile, bytes.value()}, {paths.presenterTextForWriting(name, icao), {}}});
+
+    const Result<AirportFolders> folders = createAirportFolders(paths, name);
+    if (!folders) return folders.failure();
+    Result<Written> written =
+        writeWholeFiles({{dataFile.value(), bytes.value()}, {presenterText.value(), {}}});
+    if (!written && folders.value() == AirportFolders::Made)
+        removeEmptyAirportFolders(QFileInfo(presenterText.value()).path());
+    return written;
 }
 
 } // namespace quarvel

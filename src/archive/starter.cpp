@@ -3,6 +3,7 @@
 #include "archive/paths.h"
 #include "files/lookup.h"
 #include "files/staging_folder.h"
+#include "files/system_error.h"
 #include "files/whole_copy.h"
 #include "files/whole_file.h"
 
@@ -43,15 +44,20 @@ struct Missing {
 
 Result<Missing> findMissing(const ProgramFolder& folder) {
     Missing missing;
-    missing.archive = !isTaken(folder.path, archiveName);
+    const Result<bool> archive = isTaken(folder.path, archiveName);
+    if (!archive) return archive.failure();
+    missing.archive = !archive.value();
     const Result<QStringList> files = listFiles(folder.starter);
     if (!files) {
         // An archive without a starter is what somebody else laid out: nothing is missing.
         const bool complete = !missing.archive && files.failure().fault == Fault::NotFound;
         return complete ? Result<Missing>(missing) : files.failure();
     }
-    for (const QString& file : files.value())
-        if (!isTaken(folder.path, file)) missing.files.append(file);
+    for (const QString& file : files.value()) {
+        const Result<bool> taken = isTaken(folder.path, file);
+        if (!taken) return taken.failure();
+        if (!taken.value()) missing.files.append(file);
+    }
     return missing;
 }
 

@@ -51,7 +51,7 @@ private:
     // The picture (frmFS9_picture.cpp)
     enum class Loaded { Yes, No };
     Loaded LoadCompanionPicture();
-    [[nodiscard]] QString picturePath() const;
+    [[nodiscard]] Result<QString> picturePath() const;
     void tellOnceShown(Task task, const std::optional<Failure>& failure = {});
     void clearImages();
     void Image1_MouseDown(int button, float x, float y);

@@ -7,14 +7,14 @@
 
 namespace quarvel {
 
-QString frmFS9::picturePath() const {
+Result<QString> frmFS9::picturePath() const {
     if (state_.CompanionMode == showsChart) return resolvePath(state_.FamilyFolder, state_.ChartFile);
     return paths_.picture(state_.CurrentAirport, state_.CurrentIcao);
 }
 
 frmFS9::Loaded frmFS9::LoadCompanionPicture() {
     const bool isChart = state_.CompanionMode == showsChart;
-    const Result<Picture> picture = Picture::read(picturePath());
+    const Result<Picture> picture = picturePath().then(Picture::read);
     if (!picture) {
         tellOnceShown(isChart ? Task::ReadChart : Task::ReadAirportPicture, picture.failure());
         return Loaded::No;

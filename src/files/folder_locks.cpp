@@ -16,6 +16,7 @@ constexpr unsigned pauseMicroseconds = 2000;
 /// False when another program still holds the lock at the deadline.
 bool lock(int folder, const QDeadlineTimer& deadline) {
     while (::flock(folder, LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EINTR) continue;
         if (errno != EWOULDBLOCK) return true; // no locks here
         if (deadline.hasExpired()) return false;
         ::usleep(pauseMicroseconds);
@@ -31,8 +32,9 @@ FolderLocks::FolderLocks(const QStringList& folders) {
         locked_.push_back(std::make_unique<Descriptor>(
             ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
         const int opened = locked_.back()->number();
-        if (opened < 0) continue; // a folder that cannot be listed may still be written to
-        held_ = lock(opened, deadline);
+        // A folder that may not be listed may still be written to.
+        if (opened < 0 && errno == EACCES) continue;
+        held_ = opened >= 0 && lock(opened, deadline);
         if (!held_) return;
     }
 }

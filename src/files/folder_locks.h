@@ -17,7 +17,7 @@ public:
     /// most.
     explicit FolderLocks(const QStringList& folders);
 
-    /// False when another program kept a folder for all that time.
+    /// False when another program kept a folder for all that time, or one could not be opened.
     [[nodiscard]] bool held() const { return held_; }
 
 private:

@@ -1,23 +1,17 @@
 #include "files/lookup.h"
 
+#include "files/folder_reader.h"
+#include "files/system_error.h"
+
 #include <QFile>
-#include <QFileInfo>
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
-#include <dirent.h>
-#include <memory>
 #include <sys/stat.h>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace quarvel {
 namespace {
-
-struct DirCloser {
-    void operator()(DIR* dir) const { ::closedir(dir); }
-};
 
 QString composed(const QString& text) { return text.normalized(QString::NormalizationForm_C); }
 
@@ -26,28 +20,26 @@ int compareNames(const QString& left, const QString& right) {
     return folded != 0 ? folded : QString::compare(left, right);
 }
 
-bool exists(const QString& path) {
-    struct stat info {};
-    return ::lstat(QFile::encodeName(path).constData(), &info) == 0;
-}
-
 /// A name that is nothing but a chart's extension is a chart without a name, not a hidden file.
 bool isHidden(const QString& name) { return name.startsWith(u'.') && !sameName(name, u".gif"_s); }
 
-/// All entry names of a folder, "." and ".." left out; none, and the system's error number, when it cannot be
-/// read.
-std::pair<QStringList, int> readNames(const QString& folder) {
-    QStringList names;
-    const std::unique_ptr<DIR, DirCloser> dir(::opendir(QFile::encodeName(folder).constData()));
-    if (!dir) return {names, errno};
-    errno = 0;
-    while (const dirent* entry = ::readdir(dir.get())) // NOLINT(concurrency-mt-unsafe): a stream of its own
-        if (std::strcmp(entry->d_name, ".") != 0 && std::strcmp(entry->d_name, "..") != 0)
-            names.append(QFile::decodeName(entry->d_name));
-    return {names, errno};
+/// A folder that is not there holds nothing.
+Result<QStringList> entryNamesIfAny(const QString& folder) {
+    Result<QStringList> names = entryNames(folder);
+    return !names && names.failure().fault == Fault::NotFound ? QStringList() : names;
 }
 
-QStringList entryNames(const QString& folder) { return readNames(folder).first; }
+/// The kind bits of what has this path, links followed; none for nothing, and for a link that leads nowhere.
+Result<mode_t> kindOf(const QString& path) {
+    struct stat info {};
+    if (::stat(QFile::encodeName(path).constData(), &info) == 0) return info.st_mode & S_IFMT;
+    if (meansAbsent(errno) || errno == ELOOP) return mode_t{0};
+    return readFailure(path, errno);
+}
+
+Result<bool> isFile(const QString& path) {
+    return kindOf(path).then([](mode_t kind) { return Result<bool>(kind == S_IFREG); });
+}
 
 } // namespace
 
@@ -55,48 +47,77 @@ bool sameName(const QString& left, const QString& right) {
     return QString::compare(composed(left), composed(right), Qt::CaseInsensitive) == 0;
 }
 
-QString nameOnDisk(const QString& folder, const QString& name) {
-    if (exists(folder + u'/' + name)) return name;
+Result<bool> isThere(const QString& path) {
+    struct stat info {};
+    if (::lstat(QFile::encodeName(path).constData(), &info) == 0) return true;
+    if (meansAbsent(errno)) return false;
+    return readFailure(path, errno);
+}
+
+Result<bool> isFolder(const QString& path) {
+    return kindOf(path).then([](mode_t kind) { return Result<bool>(kind == S_IFDIR); });
+}
+
+Result<QStringList> entryNames(const QString& folder) {
+    FolderReader reader(QFile::encodeName(folder));
+    QStringList names;
+    while (const dirent* entry = reader.next()) names.append(QFile::decodeName(entry->d_name));
+    if (reader.error() != 0) return readFailure(folder, reader.error());
+    return names;
+}
+
+Result<QString> nameOnDisk(const QString& folder, const QString& name) {
+    const Result<bool> exact = isThere(folder + u'/' + name);
+    if (!exact) return exact.failure();
+    if (exact.value()) return name;
+    const Result<QStringList> entries = entryNamesIfAny(folder);
+    if (!entries) return entries.failure();
     QStringList alike;
-    for (const QString& entry : entryNames(folder))
+    for (const QString& entry : entries.value())
         if (sameName(entry, name)) alike.append(entry);
     return alike.isEmpty() ? name : *std::min_element(alike.cbegin(), alike.cend());
 }
 
-bool isTaken(const QString& folder, const QString& name) {
-    return exists(folder + u'/' + nameOnDisk(folder, name));
+Result<bool> isTaken(const QString& folder, const QString& name) {
+    return nameOnDisk(folder, name).then([&](const QString& found) {
+        return isThere(folder + u'/' + found);
+    });
 }
 
-QString resolvePath(const QString& root, const QString& relative) {
-    if (root.isEmpty()) return {};
+Result<QString> resolvePath(const QString& root, const QString& relative) {
+    if (root.isEmpty()) return Failure{Fault::NotFound, relative, {}};
     QString path = root;
     while (path.size() > 1 && path.endsWith(u'/')) path.chop(1);
     for (const QString& part : relative.split(u'/', Qt::SkipEmptyParts)) {
-        if (part == u".."_s) return {};
-        path += u'/' + nameOnDisk(path, part);
+        if (part == u".."_s) return Failure{Fault::BadName, relative, {}};
+        const Result<QString> found = nameOnDisk(path, part);
+        if (!found) return found.failure();
+        path += u'/' + found.value();
     }
     return path;
 }
 
-QString resolveForWriting(const QString& root, const QString& relative) {
+Result<QString> resolveForWriting(const QString& root, const QString& relative) {
     const qsizetype cut = relative.lastIndexOf(u'/');
-    const QString folder = resolvePath(root, relative.left(std::max<qsizetype>(cut, 0)));
     const QString name = relative.mid(cut + 1);
-    return folder.isEmpty() || name == u".."_s ? QString() : folder + u'/' + name;
+    if (name == u".."_s) return Failure{Fault::BadName, relative, {}};
+    return resolvePath(root, relative.left(std::max<qsizetype>(cut, 0))).then([&](const QString& folder) {
+        return Result<QString>(folder + u'/' + name);
+    });
 }
 
-bool holdsExactly(const QString& folder, const QString& name) {
-    return entryNames(folder).contains(name) && QFileInfo(folder + u'/' + name).isFile();
+Result<bool> holdsExactly(const QString& folder, const QString& name) {
+    const Result<QStringList> names = entryNamesIfAny(folder);
+    if (!names) return names.failure();
+    return names.value().contains(name) ? isFile(folder + u'/' + name) : false;
 }
 
 Result<QStringList> listFiles(const QString& folder) {
-    const auto [entries, error] = readNames(folder);
-    const bool none = error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG;
-    if (none) return Failure{Fault::NotFound, folder, {}};
-    if (error != 0) return Failure{Fault::Unreadable, folder, {}};
+    const Result<QStringList> entries = entryNames(folder);
+    if (!entries) return entries.failure();
     QStringList names;
-    for (const QString& name : entries)
-        if (!isHidden(name) && QFileInfo(folder + u'/' + name).isFile()) names.append(name);
+    for (const QString& name : entries.value())
+        if (!isHidden(name) && isFile(folder + u'/' + name).valueOr(true)) names.append(name);
     std::sort(names.begin(), names.end(),
               [](const QString& a, const QString& b) { return compareNames(a, b) < 0; });
     return names;

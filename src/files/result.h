@@ -11,14 +11,19 @@ namespace quarvel {
 enum class Fault {
     NotFound,      ///< no such file or folder
     NotRegular,    ///< a folder, a device or a pipe stands where a file is expected
-    Unreadable,    ///< the system refused to open or read it
-    Unwritable,    ///< the system refused to create, write or replace it
+    Unreadable,    ///< the system does not allow to open or read it
+    Unwritable,    ///< the system does not allow to create, write or replace it
+    ReadFailed,    ///< reading failed, and may succeed the next time
+    WriteFailed,   ///< writing failed, and may succeed the next time
     DiskFull,      ///< no room left for it
     TooLarge,      ///< larger than any file of its kind can sensibly be
     TooShort,      ///< it ends before all its values
     Damaged,       ///< its content is not of its format
     BadName,       ///< a name that is empty, leaves its folder or holds a refused character
     NotInCodePage, ///< a text with a character that the single-byte format lacks
+    /// Of several files some are new, could not be put back, and stay so. `path` names these, a line each;
+    /// `detail` the folders in which their old selves lie, a line each, if they had any.
+    PartlyReplaced,
 };
 
 /// Why an operation did not happen. `path` names the file or folder; `detail` what in it offends (a
@@ -42,6 +47,13 @@ public:
     [[nodiscard]] const T& value() const { return std::get<0>(content_); }
     [[nodiscard]] T take() { return std::move(std::get<0>(content_)); }
     [[nodiscard]] const Failure& failure() const { return std::get<1>(content_); }
+    [[nodiscard]] T valueOr(T other) const { return ok() ? value() : std::move(other); }
+    /// What `next`, which may fail in its turn, makes of the value.
+    template <class Next>
+    [[nodiscard]] auto then(Next next) const -> decltype(next(std::declval<const T&>())) {
+        if (ok()) return next(value());
+        return failure();
+    }
 
 private:
     std::variant<T, Failure> content_;

@@ -1,14 +1,16 @@
 #include "files/staging_folder.h"
 
-#include "files/whole_file.h"
+#include "files/lookup.h"
+#include "files/system_error.h"
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -16,29 +18,69 @@ namespace quarvel {
 namespace {
 
 const QString namePrefix = u".quarvel-new-"_s;
+const QString shownPrefix = u"Quarvel-old-"_s;
 constexpr int attempts = 100;
 
 int openFolder(const QString& path) {
     return ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
 }
 
+QString oldFolderIn(const QString& staging) { return staging + u"/.old"_s; }
+
+/// Whether a folder holds a file that exists nowhere else, or may.
+bool holdsLastCopies(const QString& folder) {
+    const Result<QStringList> names = entryNames(folder);
+    if (!names) return names.failure().fault != Fault::NotFound;
+    return std::any_of(names.value().begin(), names.value().end(), [&](const QString& name) {
+        struct stat info {};
+        const bool seen = ::lstat(QFile::encodeName(folder + u'/' + name).constData(), &info) == 0;
+        return !seen || info.st_nlink == 1;
+    });
+}
+
+/// Moves the old selves of a staging folder out of it, to where the user sees them. Where they then are.
+QString bringToLight(const QString& staging) {
+    const QString hidden = oldFolderIn(staging);
+    QString shown = staging;
+    shown.replace(shown.lastIndexOf(namePrefix), namePrefix.size(), shownPrefix);
+    const bool moved =
+        ::rename(QFile::encodeName(hidden).constData(), QFile::encodeName(shown).constData()) == 0;
+    return moved || !isThere(hidden).valueOr(true) ? shown : hidden;
+}
+
 } // namespace
 
 StagingFolder::StagingFolder(const QString& path) : path_(path), locked_(openFolder(path)) {}
 
-StagingFolder::~StagingFolder() { QDir(path_).removeRecursively(); }
+StagingFolder::~StagingFolder() {
+    if (kept_ != oldFolder()) QDir(path_).removeRecursively();
+}
 
 Result<std::unique_ptr<StagingFolder>> StagingFolder::make(const QString& folder) {
     for (int attempt = 0; attempt < attempts; ++attempt) {
         QByteArray name = QFile::encodeName(folder + u'/' + namePrefix + u"XXXXXX"_s);
         if (::mkdtemp(name.data()) == nullptr) return writeFailure(folder, errno);
         std::unique_ptr<StagingFolder> made(new StagingFolder(QFile::decodeName(name)));
+        const int error = made->locked_.number() < 0 ? errno : 0;
+        if (error != 0 && error != ENOENT) return writeFailure(folder, error);
         // Before it was locked, another process may have taken it for a left-over. On a file system without
         // locks it is nobody's to clear.
         const bool taken = ::flock(made->locked_.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
-        if (!taken && QFileInfo::exists(made->path_)) return made;
+        if (error == 0 && !taken && isThere(made->path_).valueOr(false)) return made;
     }
-    return Failure{Fault::Unwritable, folder, {}};
+    return Failure{Fault::WriteFailed, folder, {}};
+}
+
+QString StagingFolder::oldFolder() const { return oldFolderIn(path_); }
+
+Result<void> StagingFolder::makeOldFolder() {
+    if (::mkdir(QFile::encodeName(oldFolder()).constData(), S_IRWXU) == 0 || errno == EEXIST) return {};
+    return writeFailure(path_, errno);
+}
+
+QString StagingFolder::keepOldFolder() {
+    if (kept_.isEmpty()) kept_ = bringToLight(path_);
+    return kept_;
 }
 
 void StagingFolder::clearLeftOvers(const QString& folder) {
@@ -48,7 +90,8 @@ void StagingFolder::clearLeftOvers(const QString& folder) {
     for (const QString& name : names) {
         const QString path = folder + u'/' + name;
         const Descriptor opened(openFolder(path));
-        if (opened.number() >= 0 && ::flock(opened.number(), LOCK_EX | LOCK_NB) == 0)
+        if (opened.number() < 0 || ::flock(opened.number(), LOCK_EX | LOCK_NB) != 0) continue;
+        if (!holdsLastCopies(oldFolderIn(path)) || bringToLight(path) != oldFolderIn(path))
             QDir(path).removeRecursively();
     }
 }

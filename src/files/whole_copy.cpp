@@ -1,12 +1,12 @@
 #include "files/whole_copy.h"
 
 #include "files/descriptor.h"
+#include "files/lookup.h"
+#include "files/system_error.h"
 #include "files/whole_file.h"
 
 #include <QByteArray>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -17,9 +17,6 @@ namespace quarvel {
 namespace {
 
 constexpr qint64 largestCopiedFile = qint64{1} << 30; // a file is held in memory while it is copied
-
-constexpr QDir::Filters everything =
-    QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot; // System: links to nothing, pipes
 
 /// For file systems that cannot rename without replacing: 0, or the system's error number.
 int moveStepByStep(const QByteArray& from, const QByteArray& to) {
@@ -42,16 +39,16 @@ Result<void> copyWholeFile(const QString& from, const QString& to) {
 }
 
 Result<void> copyWholeFolder(const QString& from, const QString& to) {
-    // The list of a folder that cannot be read would come out empty.
-    if (!QFileInfo(from).isDir()) return Failure{Fault::NotFound, from, {}};
-    if (::access(QFile::encodeName(from).constData(), R_OK | X_OK) != 0)
-        return Failure{Fault::Unreadable, from, {}};
+    const Result<QStringList> names = entryNames(from);
+    if (!names) return names.failure();
     if (::mkdir(QFile::encodeName(to).constData(), 0777) != 0) return writeFailure(to, errno);
-    for (const QFileInfo& entry : QDir(from).entryInfoList(everything)) {
-        const QString target = to + u'/' + entry.fileName();
-        const bool isFolder = entry.isDir() && !entry.isSymLink();
-        if (Result<void> copied = isFolder ? copyWholeFolder(entry.filePath(), target)
-                                           : copyWholeFile(entry.filePath(), target);
+    for (const QString& name : names.value()) {
+        const QString source = from + u'/' + name;
+        const QString target = to + u'/' + name;
+        struct stat info {};
+        if (::lstat(QFile::encodeName(source).constData(), &info) != 0) return readFailure(source, errno);
+        if (Result<void> copied =
+                S_ISDIR(info.st_mode) ? copyWholeFolder(source, target) : copyWholeFile(source, target);
             !copied)
             return copied;
     }

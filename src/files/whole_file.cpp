@@ -1,6 +1,7 @@
 #include "files/whole_file.h"
 
 #include "files/descriptor.h"
+#include "files/system_error.h"
 
 #include <QFile>
 #include <cerrno>
@@ -10,13 +11,6 @@
 #include <unistd.h>
 
 namespace quarvel {
-namespace {
-
-Failure readFailure(const QString& path, int error) {
-    return {error == ENOENT || error == ENOTDIR ? Fault::NotFound : Fault::Unreadable, path, {}};
-}
-
-} // namespace
 
 Result<QByteArray> readWholeFile(const QString& path, qint64 limitBytes) {
     // Opened without blocking: a pipe without a writer would otherwise wait for one before it can be refused.

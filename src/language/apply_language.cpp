@@ -22,10 +22,12 @@ constexpr ControlText controlTexts[] = {
 /// A window's section of a language file. A lookup fails only when the file cannot be read; the text
 /// concerned then stays as it is, whereas an absent key is an empty text.
 struct WindowSection {
-    QString file;
+    Result<QString> file;
     QString name;
 
-    [[nodiscard]] Result<QString> text(const QString& key) const { return ReadIniString(file, name, key); }
+    [[nodiscard]] Result<QString> text(const QString& key) const {
+        return file.then([&](const QString& path) { return ReadIniString(path, name, key); });
+    }
 };
 
 void applyToControl(const WindowSection& section, Control& control) {

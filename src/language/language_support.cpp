@@ -32,7 +32,8 @@ QString modLanguageSupport::MLSGetString(const QString& number) {
     if (MLSCurrentLanguage.isEmpty()) {
         if (Result<QString> setting = settingLanguage()) MLSCurrentLanguage = setting.take();
     }
-    Result<QString> text = ReadIniString(languageFile(), u"Strings"_s, number);
+    Result<QString> text =
+        languageFile().then([&](const QString& file) { return ReadIniString(file, u"Strings"_s, number); });
     return text ? text.take() : QString();
 }
 
@@ -50,25 +51,29 @@ QStringList modLanguageSupport::languages() const {
 }
 
 Result<void> modLanguageSupport::checkLanguageFile() const {
-    const Result<QByteArray> texts = readProfile(languageFile());
+    const Result<QByteArray> texts = languageFile().then(readProfile);
     if (texts || texts.failure().fault == Fault::NotFound) return {};
     return texts.failure();
 }
 
 Result<QString> modLanguageSupport::settingLanguage() const {
-    return ReadIniString(settingFile(), u"Language"_s, u"CurrentLanguage"_s);
+    return settingFile().then(
+        [](const QString& file) { return ReadIniString(file, u"Language"_s, u"CurrentLanguage"_s); });
 }
 
 void modLanguageSupport::writeSettingLanguage(const QString& language) const {
-    WriteIniString(settingFile(), u"Language"_s, u"CurrentLanguage"_s, language);
+    if (const Result<QString> file = settingFile())
+        WriteIniString(file.value(), u"Language"_s, u"CurrentLanguage"_s, language);
 }
 
-/// The current language's file; an empty path, which no file has, when there can be none.
-QString modLanguageSupport::languageFile() const {
-    if (!isLanguageName(MLSCurrentLanguage)) return {};
+/// The current language's file; NotFound when there can be none.
+Result<QString> modLanguageSupport::languageFile() const {
+    if (!isLanguageName(MLSCurrentLanguage)) return Failure{Fault::NotFound, MLSCurrentLanguage, {}};
     return resolvePath(programFolder_, MLSCurrentLanguage + u".lng"_s);
 }
 
-QString modLanguageSupport::settingFile() const { return resolvePath(programFolder_, u"LangSetting.ini"_s); }
+Result<QString> modLanguageSupport::settingFile() const {
+    return resolvePath(programFolder_, u"LangSetting.ini"_s);
+}
 
 } // namespace quarvel

@@ -42,8 +42,8 @@ public:
     void writeSettingLanguage(const QString& language) const;
 
 private:
-    [[nodiscard]] QString languageFile() const;
-    [[nodiscard]] QString settingFile() const;
+    [[nodiscard]] Result<QString> languageFile() const;
+    [[nodiscard]] Result<QString> settingFile() const;
 
     QString programFolder_;
     QString& MLSCurrentLanguage;

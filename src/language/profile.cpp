@@ -131,6 +131,20 @@ std::optional<QByteArray> lineText(const QString& text) {
     return encoded.bytes;
 }
 
+/// What is read from a profile, be it small or large.
+QString valueIn(const QByteArray& profile, const QString& section, const QString& key) {
+    const std::optional<QByteArray> keyText = lineText(key);
+    if (!keyText) return {};
+    if (profile.size() > largestProfileBytes) return decodeCodePage(scannedValue(profile, *keyText));
+
+    const std::optional<QByteArray> sectionText = lineText(section);
+    if (!sectionText) return {};
+    QByteArray value = profileValue(profile, *sectionText, *keyText);
+    value.truncate(longestProfileValue);
+    if (const qsizetype end = value.indexOf('\0'); end >= 0) value.truncate(end);
+    return decodeCodePage(value);
+}
+
 } // namespace
 
 QByteArray profileValue(QByteArrayView profile, QByteArrayView section, QByteArrayView key) {
@@ -175,19 +189,8 @@ QByteArray profileWithValue(QByteArrayView profile, QByteArrayView section, QByt
 Result<QByteArray> readProfile(const QString& file) { return readWholeFile(file, largestReadBytes); }
 
 Result<QString> ReadIniString(const QString& file, const QString& section, const QString& key) {
-    const Result<QByteArray> bytes = readProfile(file);
-    if (!bytes) return bytes.failure();
-    const std::optional<QByteArray> keyText = lineText(key);
-    if (!keyText) return QString();
-    if (bytes.value().size() > largestProfileBytes)
-        return decodeCodePage(scannedValue(bytes.value(), *keyText));
-
-    const std::optional<QByteArray> sectionText = lineText(section);
-    if (!sectionText) return QString();
-    QByteArray value = profileValue(bytes.value(), *sectionText, *keyText);
-    value.truncate(longestProfileValue);
-    if (const qsizetype end = value.indexOf('\0'); end >= 0) value.truncate(end);
-    return decodeCodePage(value);
+    return readProfile(file).then(
+        [&](const QByteArray& profile) { return Result<QString>(valueIn(profile, section, key)); });
 }
 
 bool WriteIniString(const QString& file, const QString& section, const QString& key, const QString& value) {
@@ -198,7 +201,10 @@ bool WriteIniString(const QString& file, const QString& section, const QString& 
     const Result<QByteArray> before = readProfile(file);
     if (!before && before.failure().fault != Fault::NotFound) return false;
     const QByteArray profile = before ? before.value() : QByteArray();
-    return writeWholeFile(file, profileWithValue(profile, *sectionText, *keyText, *valueText)).ok();
+    const QByteArray after = profileWithValue(profile, *sectionText, *keyText, *valueText);
+    // Not what would be read back otherwise, or not at all.
+    if (after.size() > largestReadBytes || valueIn(after, section, key) != value) return false;
+    return writeWholeFile(file, after).ok();
 }
 
 } // namespace quarvel

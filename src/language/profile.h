@@ -21,7 +21,7 @@ inline constexpr qsizetype longestProfileValue = 511;
 
 /// Sets one entry of a profile file: the file, the section and the key are made when absent, an existing
 /// value of the key is replaced, every other line stays as it was, to the byte. The file is its old or its
-/// new self. Returns whether it was written.
+/// new self. What could not be read back as it is, is not written. Returns whether it was written.
 bool WriteIniString(const QString& file, const QString& section, const QString& key, const QString& value);
 
 /// The value of a key in a profile's bytes, by the rules of a profile: names without regard to letter case,

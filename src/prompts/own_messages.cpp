@@ -80,6 +80,20 @@ constexpr std::array messages = {
     OwnMessage{u"0163", u"Scorrimento orizzontale della cartina"},
     OwnMessage{u"0164", u"Scorrimento verticale della cartina"},
     OwnMessage{u"0165", u"Note (non usate)"},
+    // Why, when it may pass by itself, and what a save left half done.
+    OwnMessage{u"0170", u"La lettura non è riuscita:\n%1\nPuò essere un guasto passeggero del disco o della "
+                        u"rete: riprova. Se si ripete, controlla il disco."},
+    OwnMessage{u"0171", u"La scrittura non è riuscita:\n%1\nPuò essere un guasto passeggero del disco o "
+                        u"della rete, o un altro programma che usa il file: riprova."},
+    OwnMessage{u"0172", u"Questi file sono già quelli nuovi:\n%1\nLe copie di prima sono "
+                        u"qui:\n%2\nConservale, controlla il disco e salva di nuovo."},
+    OwnMessage{u"0173",
+               u"Questi file sono nuovi, prima non c'erano:\n%1\nControlla il disco e salva di nuovo."},
+    OwnMessage{u"0174",
+               u"Il salvataggio è riuscito solo in parte. Quello che hai scritto è ancora nella finestra."},
+    OwnMessage{u"0175",
+               u"Salvato. Questi file avevano anche altri nomi (collegamenti fisici), che conservano il "
+               u"contenuto di prima:\n%1\nSe anche quelli devono cambiare, copiali di nuovo."},
 };
 
 } // namespace

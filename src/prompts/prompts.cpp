@@ -23,9 +23,17 @@ QString numberOf(Fault fault) {
     case Fault::Damaged: return u"0137"_s;
     case Fault::BadName: return u"0138"_s;
     case Fault::NotInCodePage: return u"0139"_s;
+    case Fault::ReadFailed: return u"0170"_s;
+    case Fault::WriteFailed: return u"0171"_s;
+    case Fault::PartlyReplaced: return u"0172"_s;
     }
     return {};
 }
+
+/// What was being done, when it was done in part.
+const QString partlySaved = u"0174"_s;
+const QString partlyMade = u"0173"_s; ///< the reason, when what is new replaced nothing
+const QString otherNames = u"0175"_s;
 
 } // namespace
 
@@ -51,10 +59,15 @@ void Prompts::showFixed(Form& form, const QString& text) {
 }
 
 void Prompts::tell(Form& form, Task task, const Failure& failure) {
-    QString reason = text(numberOf(failure.fault));
+    const bool partly = failure.fault == Fault::PartlyReplaced;
+    QString reason = text(partly && failure.detail.isEmpty() ? partlyMade : numberOf(failure.fault));
     // Both places at once: a file's name may itself hold a percent sign.
     reason = reason.contains(u"%2"_s) ? reason.arg(failure.path, failure.detail) : reason.arg(failure.path);
-    showOwn(form, text(numberOf(task)) + u"\n\n"_s + reason);
+    showOwn(form, text(partly ? partlySaved : numberOf(task)) + u"\n\n"_s + reason);
+}
+
+void Prompts::tellOf(Form& form, const Written& written) {
+    if (!written.separated.isEmpty()) showOwn(form, text(otherNames).arg(written.separated.join(u'\n')));
 }
 
 void Prompts::tell(Form& form, Task task) { showOwn(form, text(numberOf(task))); }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/result.h"
+#include "files/whole_file.h"
 #include "forms/form.h"
 #include "language/language_support.h"
 #include "platform/form_printer.h"
@@ -42,6 +42,8 @@ public:
     void showFixed(Form& form, const QString& text);
     /// Tells what was being done, to which file, why it failed and what to do.
     void tell(Form& form, Task task, const Failure& failure);
+    /// Tells what there is to tell of a save that succeeded, which is mostly nothing.
+    void tellOf(Form& form, const Written& written);
     /// Tells a refusal that concerns no file.
     void tell(Form& form, Task task);
 

@@ -33,7 +33,7 @@ void frmMain::Label15_Click() { services_.urls.open(u"mailto:"_s + QString::from
 void frmMain::cmdStampa_Click() { prompts_.printWindow(*this, services_.printer); }
 
 void frmMain::cmdGrafica_Click() {
-    services_.sounds.play(resolvePath(paths_.programFolder(), u"dallas9.wav"_s));
+    services_.sounds.play(resolvePath(paths_.programFolder(), u"dallas9.wav"_s).valueOr({}));
     unload();
     windows().show(WindowName::frmView);
 }

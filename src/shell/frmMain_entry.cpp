@@ -76,13 +76,15 @@ void frmMain::cmdSave_Click() {
         return;
     }
     const AirportRecord record = typedRecord();
-    if (const Result<void> saved = saveAirport(paths_, c->txtNomeAeroporto.text(), record); !saved) {
+    const Result<Written> saved = saveAirport(paths_, c->txtNomeAeroporto.text(), record);
+    if (!saved) {
         prompts_.tell(*this, Task::SaveAirport, saved.failure());
         backToEditing();
         return;
     }
     state_.CurrentIcao = record.values[IcaoCode];
-    endAfterSaving();
+    prompts_.tellOf(*this, saved.value());
+    if (c != nullptr) endAfterSaving();
 }
 
 void frmMain::endAfterSaving() {

@@ -55,7 +55,8 @@ void frmMain::txtNomeAeroporto_KeyUp(int key) {
     const auto listing = std::make_shared<const ArchiveListing>(
         search_.list(paths_.archiveFolder(), c->txtNomeAeroporto.text()));
     c->lstWords.setRows(listing->size(), [listing](int row) { return listing->text(row); });
-    if (listing->size() == 0) c->lstWords.setHint(emptyListHint());
+    if (listing->size() == 0)
+        c->lstWords.setHint(listing->isReadable() ? emptyListHint() : hintFor(ArchiveState::Unreadable));
     if (key == Qt::Key_Down && listing->size() > 0) c->lstWords.setFocus();
 }
 
@@ -78,14 +79,13 @@ void frmMain::OpenAirport(const Before& before) {
         return;
     }
     state_.CurrentAirport = name;
-    if (hasDataFile(paths_, name)) {
-        showAirport(name, before);
-    } else if (const Result<void> looked = checkLookedInto(paths_, name); !looked) {
+    const Result<bool> hasData = hasDataFile(paths_, name);
+    if (!hasData) {
         putBack(before);
-        prompts_.tell(*this, Task::ReadRecord, looked.failure());
-    } else {
-        offerNewAirport(name, before);
+        prompts_.tell(*this, Task::ReadRecord, hasData.failure());
+        return;
     }
+    hasData.value() ? showAirport(name, before) : offerNewAirport(name, before);
 }
 
 void frmMain::offerNewAirport(const QString& name, const Before& before) {
@@ -107,7 +107,7 @@ void frmMain::backToSearch() {
 }
 
 void frmMain::startNewAirport(const QString& name, const Before& before) {
-    if (const Result<void> made = createAirportFolders(paths_, name); !made) {
+    if (const Result<AirportFolders> made = createAirportFolders(paths_, name); !made) {
         putBack(before);
         const bool refusedName = made.failure().fault == Fault::BadName;
         prompts_.tell(*this, refusedName ? Task::NameAirport : Task::MakeFolders, made.failure());
@@ -123,7 +123,7 @@ void frmMain::startNewAirport(const QString& name, const Before& before) {
 }
 
 void frmMain::showAirport(const QString& name, const Before& before) {
-    const Result<AirportRecord> record = readRecord(paths_.dataFile(name));
+    const Result<AirportRecord> record = paths_.dataFile(name).then(readRecord);
     if (!record) {
         putBack(before);
         prompts_.tell(*this, Task::ReadRecord, record.failure());
@@ -131,8 +131,10 @@ void frmMain::showAirport(const QString& name, const Before& before) {
     }
     // The picture is read before anything is shown, so that a damaged one leaves the window as it was.
     const QString icao = record.value().values[IcaoCode];
-    const bool pictured = hasPicture(paths_, name, icao);
-    const Result<Picture> picture = pictured ? Picture::read(paths_.picture(name, icao)) : Picture();
+    const Result<bool> pictured = hasPicture(paths_, name, icao);
+    const Result<Picture> picture = pictured.then([&](bool is) {
+        return is ? paths_.picture(name, icao).then(Picture::read) : Result<Picture>(Picture());
+    });
     if (!picture) {
         putBack(before);
         prompts_.tell(*this, Task::ReadAirportPicture, picture.failure());
@@ -143,7 +145,7 @@ void frmMain::showAirport(const QString& name, const Before& before) {
     HideDecorations();
     ShowAirportData();
     c->txtRwy[IcaoCode].setFocus(); // what was used to open the airport is hidden or disabled
-    if (!pictured) {
+    if (!pictured.value()) {
         endWithoutPicture();
         return;
     }
@@ -161,7 +163,7 @@ void frmMain::fillFields(const AirportRecord& record) {
 
 void frmMain::presentAirport(const QString& name) {
     if (state_.MLSCurrentLanguage != u"Italiano"_s || !staysInFolder(state_.CurrentIcao)) return;
-    presenterTextPath_ = paths_.presenterText(name, state_.CurrentIcao);
+    presenterTextPath_ = paths_.presenterText(name, state_.CurrentIcao).valueOr({});
     c->TxtFile.setText({}); // without a file of its own, no other airport's text is read
     presenter_.LoadTextFile(presenterTextPath_, c->TxtFile);
     presenter_.PresentAirport(c->TxtFile);

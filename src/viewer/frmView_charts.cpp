@@ -31,14 +31,15 @@ FamilyTexts textsOf(Family family) {
 void frmView::Option1_Click(int index) {
     c->frame6.setUsable(Usable::Yes); // also the way back, whatever becomes of the list
     const Family family = familyOfOption(index);
-    const QString folder = paths_.familyFolder(state_.CurrentAirport, familyFolderName(family));
-    if (const Result<void> listed = c->File1.setPath(folder); !listed) {
+    const Result<QString> folder = paths_.familyFolder(state_.CurrentAirport, familyFolderName(family));
+    const Result<void> listed = folder ? c->File1.setPath(folder.value()) : Result<void>(folder.failure());
+    if (!listed) {
         c->Option1[index].clear();
         if (chosenOption_ >= 0) c->Option1[chosenOption_].choose();
         prompts_.tell(*this, Task::ListCharts, listed.failure());
         return;
     }
-    state_.FamilyFolder = folder;
+    state_.FamilyFolder = folder.value();
     c->List1.setItems(chartNames(c->File1.files()));
     chosenRow_ = -1;
     chosenOption_ = index;
@@ -61,7 +62,7 @@ void frmView::setFamilyTexts(Family family) {
 void frmView::List1_Click() {
     const QString chart = c->List1.selectedText();
     // Picture and notes are read before anything is shown, so that a failure leaves the window as it was.
-    const Result<Picture> picture = Picture::read(resolvePath(c->File1.path(), chartFileName(chart)));
+    const Result<Picture> picture = resolvePath(c->File1.path(), chartFileName(chart)).then(Picture::read);
     if (!picture) {
         keepChosenChart();
         prompts_.tell(*this, Task::ReadChart, picture.failure());
@@ -118,8 +119,8 @@ void frmView::cmdSave_Click() {
     if (answer != Answer::Ok || c == nullptr) return;
     std::vector<NoteText> texts;
     for (const NoteKind& kind : notesOf(FamilyMode)) texts.push_back({kind.box, boxOf(kind.box).text()});
-    const Result<void> saved = saveNotes(c->File1.path(), FamilyMode, ChartName, texts);
-    if (!saved) prompts_.tell(*this, Task::SaveNotes, saved.failure());
+    const Result<Written> saved = saveNotes(c->File1.path(), FamilyMode, ChartName, texts);
+    saved ? prompts_.tellOf(*this, saved.value()) : prompts_.tell(*this, Task::SaveNotes, saved.failure());
 }
 
 void frmView::Text1_KeyPress(char16_t& key) { key = UpperCaseKey(key); }

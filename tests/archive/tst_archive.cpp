@@ -98,21 +98,24 @@ private Q_SLOTS:
         QVERIFY(QFileInfo::exists(likeALeftOver));
         QCOMPARE(QDir(at(u"Aeroporti/"_s + name)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
                  (QStringList{u"Aeroporto"_s, u"Approach"_s, u"Sid"_s, u"Star"_s}));
-        QVERIFY(writeRecord(paths_->dataFileForWriting(name), recordOf(u"x"_s)).ok());
+        QVERIFY(writeRecord(paths_->dataFileForWriting(name).value(), recordOf(u"x"_s)).ok());
         QVERIFY(QFileInfo::exists(at(u"Aeroporti/"_s + name + u"/Aeroporto/"_s + name + u".txt"_s)));
-        QVERIFY(readRecord(paths_->dataFile(name.toLower())).ok());
-        QCOMPARE(paths_->familyFolder(name.toLower(), u"STAR"_s), at(u"Aeroporti/"_s + name + u"/Star/"_s));
+        QVERIFY(readRecord(paths_->dataFile(name.toLower()).value()).ok());
+        QCOMPARE(paths_->familyFolder(name.toLower(), u"STAR"_s).value(),
+                 at(u"Aeroporti/"_s + name + u"/Star/"_s));
     }
 
     void openingLooksForExactNames() {
         QVERIFY(createAirportFolders(*paths_, u"LIRF"_s).ok());
         const QString folder = at(u"Aeroporti/LIRF/Aeroporto/"_s);
         for (const QString& file : {u"lirf.txt"_s, u"LIrf.gif"_s}) put(folder + file);
-        QVERIFY(!hasDataFile(*paths_, u"LIRF"_s) && !hasPicture(*paths_, u"LIRF"_s, u"LIRF"_s));
+        QVERIFY(!hasDataFile(*paths_, u"LIRF"_s).value() &&
+                !hasPicture(*paths_, u"LIRF"_s, u"LIRF"_s).value());
         put(folder + u"lirf.gif"_s);
-        QVERIFY(hasPicture(*paths_, u"LIRF"_s, u" LIRF "_s)); // the code's blanks do not count
-        QCOMPARE(paths_->picture(u"lirf"_s, u"LIRF"_s), folder + u"lirf.gif"_s); // the one found is shown
-        QVERIFY(!hasPicture(*paths_, u"LIRF"_s, u"../Aeroporto/lirf"_s));
+        QVERIFY(hasPicture(*paths_, u"LIRF"_s, u" LIRF "_s).value()); // the code's blanks do not count
+        QCOMPARE(paths_->picture(u"lirf"_s, u"LIRF"_s).value(),
+                 folder + u"lirf.gif"_s); // the one found is shown
+        QVERIFY(!hasPicture(*paths_, u"LIRF"_s, u"../Aeroporto/lirf"_s).value());
     }
 };
 

@@ -4,6 +4,7 @@
 #include "pictures/gif_maker.h"
 #include "pictures/picture.h"
 #include "prompts/own_messages.h"
+#include "support/failing_calls.h"
 #include "support/ordinary_user.h"
 #include "support/test_program.h"
 
@@ -109,6 +110,68 @@ private Q_SLOTS:
         QVERIFY(lastTold(*test).contains(builtInText(u"0132"_s).section(u'\n', 0, 0)));
         TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
         QCOMPARE(TestProgram::rows(test->viewWindow(), u"List1"_s), QStringList(u"KENN"_s));
+    }
+
+    void aFolderThatCannotBeReadForAMomentIsToldAndNotTakenForEmpty() {
+        const auto test = started();
+        test->write(u"aeroporti/LIRF/Sid/ROTTA_KENN.txt"_s, "\"VIA\"\r\n");
+        const auto failing = [](const std::function<void()>& use) {
+            failing_calls::Plan plan{1, EIO};
+            plan.only = "opendir";
+            QVERIFY(failing_calls::run(plan, use));
+        };
+        const auto toldOf = [&](const QString& task) {
+            return lastTold(*test).contains(builtInText(task)) &&
+                   lastTold(*test).contains(builtInText(u"0170"_s).section(u'\n', 0, 0));
+        };
+        failing([&] { test->type(u"L"_s); });
+        QVERIFY(says(test->mainWindow(), u"lstWords"_s, test->path(u"aeroporti"_s)));
+        enter(*test, u"LIRF"_s);
+        failing([&] { TestProgram::click(test->mainWindow(), u"cmdElabora"_s); });
+        QVERIFY(toldOf(u"0111"_s) && test->program().state().CurrentAirport.isEmpty());
+        enter(*test, {});
+        test->openViewer(u"LIRF"_s);
+        failing([&] { TestProgram::click(test->viewWindow(), u"Option1(0)"_s); });
+        QVERIFY(toldOf(u"0114"_s));
+        TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
+        failing([&] { TestProgram::clickRow(test->viewWindow(), u"List1"_s, 0); });
+        QVERIFY(toldOf(u"0117"_s));
+        QCOMPARE(test->program().viewWindow().ChartName, QString());
+    }
+
+    void whatWasSavedInPartIsToldWithThePlaceOfTheOldFiles() {
+        const auto test = started();
+        const QString folder = test->path(u"aeroporti/LIRF/Sid/"_s);
+        const QString route = folder + u"ROTTA_KENN.txt"_s;
+        put(route, "\"OLD\"\r\n");
+        put(folder + u"ALTITUDINE_KENN.txt"_s, "\"OLD\"\r\n");
+        test->openViewer(u"LIRF"_s);
+        TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
+        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 0);
+        failing_calls::Plan secondOn{2, EIO, failing_calls::How::AllOfItsKindFromThenOn};
+        secondOn.only = "rename";
+        failing_calls::run(secondOn, [&] { TestProgram::click(test->viewWindow(), u"cmdSave"_s); });
+        const QStringList kept = QDir(folder).entryList({u".quarvel-new-*"_s}, QDir::Dirs | QDir::Hidden);
+        QCOMPARE(kept.size(), 1); // where nothing can be moved into sight
+        const QString old = folder + kept.first() + u"/.old"_s;
+        QCOMPARE(lastTold(*test),
+                 builtInText(u"0174"_s) + u"\n\n"_s + builtInText(u"0172"_s).arg(route, old));
+        QCOMPARE(bytesOf(old + u"/ROTTA_KENN.txt"_s), "\"OLD\"\r\n");
+    }
+
+    void anotherNameOfASavedFileIsTold() {
+        const auto test = started();
+        const QString note = test->path(u"aeroporti/LIRF/Sid/ROTTA_KENN.txt"_s);
+        put(note, "\"OLD\"\r\n");
+        QCOMPARE(::link(QFile::encodeName(note).constData(), QFile::encodeName(note + u".bak"_s).constData()),
+                 0);
+        test->openViewer(u"LIRF"_s);
+        TestProgram::click(test->viewWindow(), u"Option1(0)"_s);
+        TestProgram::clickRow(test->viewWindow(), u"List1"_s, 0);
+        for (int save = 0; save < 2; ++save) TestProgram::click(test->viewWindow(), u"cmdSave"_s);
+        QCOMPARE(test->boxes.shown.size(), 3); // two questions, and once what there was to tell
+        QCOMPARE(test->boxes.shown[1].text, builtInText(u"0175"_s).arg(note));
+        QCOMPARE(bytesOf(note + u".bak"_s), "\"OLD\"\r\n");
     }
 
     void whatCannotBeWrittenIsToldAndNothingTypedIsLost_data() {
@@ -257,11 +320,11 @@ private Q_SLOTS:
         test->openAirport(u"LIRF"_s);
         QVERIFY(test->end.ended && test->presenter.loaded.isEmpty()); // no picture, no text
         const ArchivePaths paths(test->path({}));
-        QCOMPARE(paths.picture(u"LIRF"_s, u"../OUT"_s), QString());
-        QCOMPARE(paths.presenterText(u"LIRF"_s, u"../../OUT"_s), QString());
-        QCOMPARE(paths.dataFileForWriting(u"../OUT"_s), QString());
-        QCOMPARE(paths.familyFolder(u".."_s, u"Sid"_s), QString());
-        QCOMPARE(resolvePath({}, u"etc/passwd"_s), QString());
+        QVERIFY(!paths.picture(u"LIRF"_s, u"../OUT"_s));
+        QVERIFY(!paths.presenterText(u"LIRF"_s, u"../../OUT"_s));
+        QVERIFY(!paths.dataFileForWriting(u"../OUT"_s));
+        QVERIFY(!paths.familyFolder(u".."_s, u"Sid"_s));
+        QVERIFY(!resolvePath({}, u"etc/passwd"_s));
         test->write(u"out.lng"_s, "[frmMain]\r\ncmdElabora.Caption=\"OUT\"\r\n");
         test->write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=aeroporti/../out\r\n");
         test->start();

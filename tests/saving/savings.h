@@ -26,23 +26,25 @@ inline void layOutForSaving(const QString& folder) {
 inline QString textOf(int version) { return QString(300 + version % 7 * 1500, QChar(u'A' + version % 26)); }
 
 /// Saves a version of something as the windows do.
-inline bool save(Saving what, const QString& folder, int version) {
+inline Result<Written> save(Saving what, const QString& folder, int version) {
     const QString text = textOf(version);
     AirportRecord record;
     switch (what) {
     case Saving::Record:
         record.values.fill(text);
         record.values[IcaoCode] = QStringLiteral("KILL");
-        return saveAirport(ArchivePaths(folder), QStringLiteral("KILL"), record).ok();
+        return saveAirport(ArchivePaths(folder), QStringLiteral("KILL"), record);
     case Saving::Notes:
         return saveNotes(folder + QStringLiteral("/aeroporti/KILL/Sid"), Family::Sid, QStringLiteral("KENN"),
-                         {{NotesBox::Text1, text}, {NotesBox::Text2, text}, {NotesBox::Text3, text}})
-            .ok();
+                         {{NotesBox::Text1, text}, {NotesBox::Text2, text}, {NotesBox::Text3, text}});
     case Saving::Language: break;
     }
-    return WriteIniString(folder + QStringLiteral("/LangSetting.ini"), QStringLiteral("Language"),
-                          QStringLiteral("CurrentLanguage"),
-                          version % 2 == 0 ? QStringLiteral("English") : QStringLiteral("Italiano"));
+    const bool written =
+        WriteIniString(folder + QStringLiteral("/LangSetting.ini"), QStringLiteral("Language"),
+                       QStringLiteral("CurrentLanguage"),
+                       version % 2 == 0 ? QStringLiteral("English") : QStringLiteral("Italiano"));
+    if (!written) return Failure{Fault::Unwritable, folder, {}};
+    return Written();
 }
 
 /// The bytes of all files below a folder by their paths; hidden files and folders only when asked for.

@@ -2,17 +2,11 @@
 #include "files/folder_locks.h"
 #include "saving/savings.h"
 #include "support/disk.h"
-#include "support/test_program.h"
 
-#include <QElapsedTimer>
-#include <QHash>
-#include <QPlainTextEdit>
 #include <QProcess>
-#include <QRandomGenerator>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
-#include <algorithm>
 #include <utility>
 
 using namespace quarvel;
@@ -43,40 +37,6 @@ private Q_SLOTS:
                  QByteArray("\"---\"\r\n").repeated(38) + "\"LIRF\"\r\n");
         QCOMPARE(bytesOf(airport + u"LIRF_Agent.txt"_s), QByteArray());
         QVERIFY(QDir(airport + u"Sid"_s).exists()); // made with the save, the name being new
-    }
-
-    void fiveHundredKillsLeaveWholeFilesAndAProgramThatStarts() {
-        TestProgram test;
-        const QString folder = test.path({});
-        layOutForSaving(folder);
-        test.addChart(u"aeroporti/KILL/Aeroporto/KILL.gif"_s, {20, 30});
-        test.addChart(u"aeroporti/KILL/Sid/KENN.gif"_s, {20, 30});
-        QHash<QString, QSet<QByteArray>> whole; // the old and the new self of every file
-        QElapsedTimer saving;
-        saving.start();
-        for (int version = 1; version >= 0; --version) {
-            for (const Saving what : allSavings) QVERIFY(save(what, folder, version));
-            const auto files = filesBelow(folder);
-            for (auto file = files.begin(); file != files.end(); ++file) whole[file.key()] += file.value();
-        }
-        // The kills fall into the first few saves, however slow the disk.
-        const auto span = static_cast<int>(std::clamp<qint64>(saving.elapsed(), 8, 100));
-        QRandomGenerator random(1); // any seed will do; this one makes a failure come back
-        QHash<QString, QSet<QByteArray>> left;
-        for (int kill = 0; kill < 500; ++kill) {
-            killWhileSaving(allSavings.at(kill % 3), folder, static_cast<int>(random.bounded(span)));
-            const auto files = filesBelow(folder);
-            QCOMPARE(files.size(), whole.size());
-            for (auto file = files.begin(); file != files.end(); ++file) {
-                QVERIFY2(whole[file.key()].contains(file.value()), qPrintable(file.key()));
-                left[file.key()] += file.value();
-            }
-            if (kill % 50 == 49) startsAndShows(test);
-        }
-        QVERIFY2(left == whole, "the kills came too early to say anything");
-        for (const Saving what : allSavings) QVERIFY(save(what, folder, 0));
-        QCOMPARE(filesBelow(folder, QDir::Hidden),
-                 filesBelow(folder)); // nothing is left of all the killed saves
     }
 
     void ofTwoCopiesAtOnceTheLastSaveWinsWhole() {
@@ -115,25 +75,7 @@ private:
         process.kill();
         QVERIFY(process.waitForFinished());
     }
-
-    static void killWhileSaving(Saving what, const QString& folder, int afterMilliseconds) {
-        QProcess process;
-        startSaving(process, what, folder, {0, 1});
-        process.waitForFinished(afterMilliseconds);
-        end(process);
-    }
-
-    static void startsAndShows(TestProgram& test) {
-        test.start();
-        test.openViewer(u"KILL"_s);
-        TestProgram::click(test.viewWindow(), u"Option1(0)"_s);
-        QCOMPARE(TestProgram::rows(test.viewWindow(), u"List1"_s), QStringList(u"KENN"_s));
-        TestProgram::clickRow(test.viewWindow(), u"List1"_s, 0);
-        const auto* note = TestProgram::control<QPlainTextEdit>(test.viewWindow(), u"Text1"_s);
-        QVERIFY(!note->toPlainText().isEmpty());
-        QVERIFY(test.boxes.shown.isEmpty());
-    }
 };
 
-QTEST_MAIN(SavingTest)
+QTEST_GUILESS_MAIN(SavingTest)
 #include "tst_saving.moc"

@@ -29,7 +29,7 @@ class WriteFaultsTest : public QObject {
     static bool prepare(const QString& folder) {
         layOutForSaving(folder);
         bool saved = true;
-        for (const Saving what : allSavings) saved = save(what, folder, 0) && saved;
+        for (const Saving what : allSavings) saved = save(what, folder, 0).ok() && saved;
         return saved;
     }
 
@@ -59,7 +59,7 @@ private Q_SLOTS:
                 QVERIFY(prepare(folder.path()));
                 const QString wrong = saveUnder(what, folder.path(), [&] {
                     const FileSizeLimit limited(limit);
-                    return save(what, folder.path(), 1);
+                    return save(what, folder.path(), 1).ok();
                 });
                 QVERIFY2(wrong.isEmpty(), qPrintable(wrong + u" at %1"_s.arg(limit)));
             }
@@ -69,7 +69,7 @@ private Q_SLOTS:
         inMemory([](Saving what, const QString& folder, const QString& disk) {
             // From no room at all, a page more each time, until the save succeeds.
             for (int pages = 0; pages < 60; ++pages) {
-                save(what, folder, 0);
+                static_cast<void>(save(what, folder, 0));
                 put(disk + u"/room"_s, QByteArray(pages * 4096, 'x'));
                 QFile filling(disk + u"/filling"_s);
                 if (!filling.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return u"not filled"_s;
@@ -77,7 +77,7 @@ private Q_SLOTS:
                 QFile::remove(disk + u"/room"_s);
                 bool saved = false;
                 const QString wrong = saveUnder(what, folder, [&] {
-                    saved = save(what, folder, 1);
+                    saved = save(what, folder, 1).ok();
                     filling.remove();
                     return saved;
                 });
@@ -92,8 +92,8 @@ private Q_SLOTS:
         inMemory([](Saving what, const QString& folder, const QString& disk) {
             if (!makeReadOnly(disk)) return u"not made read-only"_s;
             bool saved = false;
-            const QString wrong = saveUnder(what, folder, [&] { return saved = save(what, folder, 1); });
-            if (saved || !readRecord(ArchivePaths(folder).dataFile(u"KILL"_s)))
+            const QString wrong = saveUnder(what, folder, [&] { return saved = save(what, folder, 1).ok(); });
+            if (saved || !ArchivePaths(folder).dataFile(u"KILL"_s).then(readRecord))
                 return u"saved on a read-only file system, or not read from it"_s;
             return wrong;
         });
@@ -107,7 +107,7 @@ private Q_SLOTS:
                 {Saving::Language, u"/LangSetting.ini"_s}};
             if (!nailDown(folder + lastFile[what])) return u"not nailed down"_s;
             bool saved = false;
-            const QString wrong = saveUnder(what, folder, [&] { return saved = save(what, folder, 1); });
+            const QString wrong = saveUnder(what, folder, [&] { return saved = save(what, folder, 1).ok(); });
             return saved ? u"replaced what cannot be"_s : wrong;
         });
     }
@@ -128,6 +128,41 @@ private Q_SLOTS:
         ::chmod(QFile::encodeName(note).constData(), 0604);
         QVERIFY(save(Saving::Notes, folder.path(), 1));
         QCOMPARE(modeOf(note), 0604U);
+        if (::geteuid() != 0) return; // only root may give files away
+        constexpr uid_t someone = 1234;
+        QCOMPARE(::chown(QFile::encodeName(note).constData(), someone, someone), 0);
+        QVERIFY(save(Saving::Notes, folder.path(), 0));
+        QCOMPARE(QFileInfo(note).ownerId(), someone);
+        QCOMPARE(QFileInfo(note).groupId(), someone);
+        QCOMPARE(modeOf(note), 0604U);
+    }
+
+    void whatCouldNotBeReadAgainIsNotSaved() {
+        const QTemporaryDir folder;
+        QVERIFY(prepare(folder.path()));
+        const QString setting = folder.path() + u"/LangSetting.ini"_s;
+        put(setting, "[Other]\r\n" + QByteArray(largestProfileBytes, 'x')); // from there on read line by line
+        const auto before = filesBelow(folder.path(), QDir::Hidden);
+        const QString large(largestRecordBytes, u'X');
+        AirportRecord record;
+        const auto saves = [&](const QString& name) {
+            return saveAirport(ArchivePaths(folder.path()), name, record);
+        };
+        record.values[Latitude] = large;
+        QCOMPARE(saves(u"KILL"_s).failure().fault, Fault::TooLarge);
+        QCOMPARE(saves(u"NEW"_s).failure().fault, Fault::TooLarge);
+        record.values[Latitude] = u"\u4E00"_s;
+        QCOMPARE(saves(u"NEW"_s).failure().fault, Fault::NotInCodePage);
+        QVERIFY(!save(Saving::Language, folder.path(), 1));
+        const FileSizeLimit limited(0);
+        record.values[Latitude].clear();
+        QCOMPARE(saves(u"NEW"_s).failure().fault, Fault::DiskFull);
+        QCOMPARE(saveNotes(folder.path() + u"/aeroporti/KILL/Sid"_s, Family::Approach, u"KENN"_s,
+                           {{NotesBox::Text2, large}})
+                     .failure()
+                     .fault,
+                 Fault::TooLarge);
+        QCOMPARE(filesBelow(folder.path(), QDir::Hidden), before); // nor is a new name's folder left
     }
 
     void aLinkStaysAndOneToNothingIsRefused() {

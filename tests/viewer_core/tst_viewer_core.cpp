@@ -36,7 +36,7 @@ private Q_SLOTS:
         const QStringList listed = quarvel::chartNames(files);
         QCOMPARE(listed.size(), onDisk.size());
         for (qsizetype i = 0; i < listed.size(); ++i)
-            QCOMPARE(nameOnDisk(folder.path(), chartFileName(listed[i])), files[i]);
+            QCOMPARE(nameOnDisk(folder.path(), chartFileName(listed[i])).value(), files[i]);
         QCOMPARE(chartFileName(u"  KENNEDY 1 "_s), u"KENNEDY 1.gif"_s);
     }
 

@@ -21,9 +21,6 @@ constexpr std::array sidNotes = {
 };
 constexpr std::array approachNotes = {NoteKind{u"MISSED_", NotesBox::Text2, false}};
 
-/// A box takes 15000 characters; anything near this size is no note, whatever its name says.
-constexpr qint64 longestNoteFileBytes = qint64{1024} * 1024;
-
 /// CR LF, lone CR and lone LF all become single line feeds.
 QString withLineFeeds(QString text) {
     text.replace("\r\n"_L1, "\n"_L1);
@@ -72,19 +69,23 @@ Result<QByteArray> noteBytes(const QString& text, const QString& path) {
     field.replace(u'"', u'\u201D');
     const EncodedText encoded = encodeCodePage(field);
     if (!encoded.refused.isEmpty()) return Failure{Fault::NotInCodePage, path, encoded.refused};
-    return '"' + encoded.bytes + "\"\r\n";
+    QByteArray bytes = '"' + encoded.bytes + "\"\r\n";
+    if (bytes.size() > largestNoteBytes) return Failure{Fault::TooLarge, path, {}};
+    return bytes;
 }
 
 Result<QString> loadNote(const QString& folder, const NoteKind& kind, const QString& chartName) {
-    if (!holdsExactly(folder, noteFileName(kind, chartName))) return QString();
+    const Result<bool> held = holdsExactly(folder, noteFileName(kind, chartName));
+    if (!held) return held.failure();
+    if (!held.value()) return QString();
     const QString path = noteFilePath(folder, kind, chartName);
-    const Result<QByteArray> bytes = readWholeFile(path, longestNoteFileBytes);
+    const Result<QByteArray> bytes = readWholeFile(path, largestNoteBytes);
     if (!bytes) return bytes.failure();
     return parseNote(bytes.value(), path);
 }
 
-Result<void> saveNotes(const QString& folder, Family family, const QString& chartName,
-                       const std::vector<NoteText>& texts) {
+Result<Written> saveNotes(const QString& folder, Family family, const QString& chartName,
+                          const std::vector<NoteText>& texts) {
     std::vector<FileContent> files;
     for (const NoteKind& kind : notesOf(family)) {
         const auto note = std::find_if(texts.cbegin(), texts.cend(),

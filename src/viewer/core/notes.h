@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/result.h"
+#include "files/whole_file.h"
 #include "viewer/core/catalogue.h"
 
 #include <QByteArray>
@@ -26,16 +26,21 @@ struct NoteKind {
 /// The name of a note's file: prefix, chart name exactly as listed, ".txt".
 [[nodiscard]] QString noteFileName(const NoteKind& kind, const QString& chartName);
 
+/// A box takes 15000 characters; anything near this size is no note, whatever its name says. What is read is
+/// not larger, and neither is what is written.
+inline constexpr qint64 largestNoteBytes = qint64{1024} * 1024;
+
 /// The first field of a notes file: leading blanks skipped; quoted, up to the next quote or the end of the
 /// file; not quoted, up to the first comma or line end. Fails with TooShort when the file has no field.
 [[nodiscard]] Result<QString> parseNote(const QByteArray& bytes, const QString& path);
 
 /// The bytes of a notes file: the text in double quotes, CR LF. Line breaks inside the text become CR LF, a
-/// double quote the closing typographic quote. Fails with NotInCodePage (detail: the character).
+/// double quote the closing typographic quote. Fails with NotInCodePage (detail: the character) and TooLarge.
 [[nodiscard]] Result<QByteArray> noteBytes(const QString& text, const QString& path);
 
 /// A chart's note, or an empty text when the folder lists no file of exactly that name. Fails with the faults
-/// of readWholeFile and parseNote. Line ends come back as single line feeds, as text boxes hold them.
+/// of holdsExactly, readWholeFile and parseNote. Line ends come back as single line feeds, as text boxes hold
+/// them.
 [[nodiscard]] Result<QString> loadNote(const QString& folder, const NoteKind& kind, const QString& chartName);
 
 /// The text of one notes box to be saved.
@@ -47,7 +52,7 @@ struct NoteText {
 /// Writes all notes of a chart, in the family's order. All of them are prepared before the first file
 /// changes, so that a character that cannot be stored or a full disk leaves every note as it was. Fails with
 /// the faults of noteBytes and writeWholeFiles.
-[[nodiscard]] Result<void> saveNotes(const QString& folder, Family family, const QString& chartName,
-                                     const std::vector<NoteText>& texts);
+[[nodiscard]] Result<Written> saveNotes(const QString& folder, Family family, const QString& chartName,
+                                        const std::vector<NoteText>& texts);
 
 } // namespace quarvel

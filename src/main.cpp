@@ -1,7 +1,7 @@
-#include "archive/program_folder.h"
-#include "archive/starter.h"
 #include "files/whole_file.h"
 #include "forms/look.h"
+#include "install/program_folder.h"
+#include "install/starter.h"
 #include "platform/beside.h"
 #include "platform/desktop_notification_area.h"
 #include "platform/fitted_application.h"
@@ -41,9 +41,8 @@ int main(int argc, char** argv) {
     quarvel::QtBeeper beeper;
     quarvel::DesktopNotificationArea notificationArea;
     quarvel::AirportPresenter presenter([] { return std::make_unique<quarvel::EspeakVoice>(); });
-    quarvel::Program program(folder.path,
-                             {messageBoxes, sounds, printer, urls, screen, process, beeper, notificationArea},
-                             presenter);
+    quarvel::Program program(
+        folder, {messageBoxes, sounds, printer, urls, screen, process, beeper, notificationArea}, presenter);
     if (!laidOut) program.tell(quarvel::Task::PrepareProgramFolder, laidOut.failure());
     program.show(quarvel::WindowName::frmMain);
     return QApplication::exec();

@@ -1,6 +1,7 @@
 #include "archive/paths.h"
 
 #include "files/lookup.h"
+#include "install/program_folder.h"
 #include "text/strings.h"
 
 #include <utility>
@@ -11,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString airportRelative(const QString& name) { return u"aeroporti/"_s + name; }
+QString airportRelative(const QString& name) { return archiveName() + u'/' + name; }
 QString generalRelative(const QString& name) { return airportRelative(name) + u"/Aeroporto"_s; }
 QString dataRelative(const QString& name) { return generalRelative(name) + u'/' + name + u".txt"_s; }
 
@@ -24,7 +25,7 @@ QString presenterRelative(const QString& name, const QString& icao) {
 ArchivePaths::ArchivePaths(QString programFolder) : programFolder_(std::move(programFolder)) {}
 
 QString ArchivePaths::archiveFolder() const {
-    return resolvePath(programFolder_, u"aeroporti"_s).valueOr(programFolder_ + u"/aeroporti"_s);
+    return resolvePath(programFolder_, archiveName()).valueOr(programFolder_ + u'/' + archiveName());
 }
 
 Result<QString> ArchivePaths::airportFolder(const QString& name) const {

@@ -94,6 +94,12 @@ constexpr std::array messages = {
     OwnMessage{u"0175",
                u"Salvato. Questi file avevano anche altri nomi (collegamenti fisici), che conservano il "
                u"contenuto di prima:\n%1\nSe anche quelli devono cambiare, copiali di nuovo."},
+    // What the program remembers by itself.
+    OwnMessage{u"0180",
+               u"Un file con ciò che il programma ricorda per sé non si poteva usare: è stato messo da "
+               u"parte, e al suo posto ne comincia uno nuovo. I tuoi aeroporti sono come prima.\n%1"},
+    OwnMessage{u"0181", u"Il programma non può conservare ciò che ricorda per sé, come le bozze: lo ricorda "
+                        u"solo finché resta aperto."},
 };
 
 } // namespace

@@ -70,6 +70,10 @@ void Prompts::tellOf(Form& form, const Written& written) {
     if (!written.separated.isEmpty()) showOwn(form, text(otherNames).arg(written.separated.join(u'\n')));
 }
 
+void Prompts::tell(Form& form, Task task, const QString& path) {
+    showOwn(form, text(numberOf(task)).arg(path));
+}
+
 void Prompts::tell(Form& form, Task task) { showOwn(form, text(numberOf(task))); }
 
 void Prompts::printWindow(Form& form, FormPrinter& printer) {

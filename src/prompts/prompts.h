@@ -28,6 +28,8 @@ enum class Task {
     SaveAirport = 122,          ///< a new airport's data file and presenter text file
     ReadLanguage = 123,         ///< the chosen language's file
     PrepareProgramFolder = 147, ///< at the start, from what the program was installed with
+    UseState = 180,             ///< a file of what the program remembers; it was set aside
+    KeepState = 181,            ///< the same, to be written
 };
 
 /// The window's own questions and messages, in the current language.
@@ -44,6 +46,8 @@ public:
     void tell(Form& form, Task task, const Failure& failure);
     /// Tells what there is to tell of a save that succeeded, which is mostly nothing.
     void tellOf(Form& form, const Written& written);
+    /// Tells what happened to a file, where there is nothing to be done about it.
+    void tell(Form& form, Task task, const QString& path);
     /// Tells a refusal that concerns no file.
     void tell(Form& form, Task task);
 

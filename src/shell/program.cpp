@@ -1,15 +1,30 @@
 #include "shell/program.h"
 
+#include "install/state_folder.h"
+
 #include <QCoreApplication>
 #include <QTimer>
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace quarvel {
 
-Program::Program(const QString& programFolder, const Services& services, Presenter& presenter)
-    : paths_(programFolder), language_(programFolder, state_.MLSCurrentLanguage),
-      prompts_(language_, services.messageBoxes), toolkitTexts_(language_), services_(services),
+namespace {
+
+StateStore storeBeside(const ProgramFolder& folder, StateStore::Report report) {
+    const StateFolder place = findStateFolder(folder);
+    return {place.path, place.access, std::move(report)};
+}
+
+} // namespace
+
+Program::Program(const ProgramFolder& folder, const Services& services, Presenter& presenter)
+    : paths_(folder.path),
+      store_(storeBeside(
+          folder, [this](StateTrouble trouble, const Failure& failure) { tellLater(trouble, failure); })),
+      language_(folder.path, state_.MLSCurrentLanguage), prompts_(language_, services.messageBoxes),
+      toolkitTexts_(language_), services_(services),
       main_({state_, paths_, language_, prompts_, services_, presenter, *this}),
       view_({state_, paths_, language_, prompts_, services_, *this}),
       companion_({state_, paths_, language_, prompts_, services_, *this}) {
@@ -27,6 +42,22 @@ void Program::show(WindowName name) {
 }
 
 void Program::tell(Task task, const Failure& failure) { prompts_.tell(main_, task, failure); }
+
+void Program::tellLater(StateTrouble trouble, const Failure& failure) {
+    // Whoever reads or writes has its own work to finish first.
+    QTimer::singleShot(0, &life_, [this, trouble, failure] {
+        if (trouble == StateTrouble::SetAside) return prompts_.tell(inFront(), Task::UseState, failure.path);
+        prompts_.tell(inFront(), Task::KeepState, failure);
+    });
+}
+
+/// The window that the user looks at.
+Form& Program::inFront() {
+    const auto shown = std::find_if(inLoadingOrder_.rbegin(), inLoadingOrder_.rend(), [](const Form* form) {
+        return form->window() != nullptr && form->window()->isVisible();
+    });
+    return shown == inLoadingOrder_.rend() ? main_ : **shown;
+}
 
 Form& Program::window(WindowName name) {
     switch (name) {

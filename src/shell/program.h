@@ -2,6 +2,8 @@
 
 #include "archive/paths.h"
 #include "companion/frmFS9.h"
+#include "files/state_store.h"
+#include "install/program_folder.h"
 #include "language/language_support.h"
 #include "platform/services.h"
 #include "presenter/presenter.h"
@@ -21,8 +23,7 @@ namespace quarvel {
 /// The program itself: which windows there are, what they share and who follows whom.
 class Program : public Windows {
 public:
-    /// `programFolder` holds the archive, the language files, the settings and the sound.
-    Program(const QString& programFolder, const Services& services, Presenter& presenter);
+    Program(const ProgramFolder& folder, const Services& services, Presenter& presenter);
 
     /// The inside of the largest of the windows whose size is fixed, in logical pixels.
     [[nodiscard]] static QSizeF largestWindow();
@@ -35,15 +36,20 @@ public:
     void unloaded(Form& form) override;
 
     [[nodiscard]] ProcessState& state() { return state_; }
+    /// What the program remembers by itself from one run to the next.
+    [[nodiscard]] StateStore& store() { return store_; }
     [[nodiscard]] frmMain& mainWindow() { return main_; }
     [[nodiscard]] frmView& viewWindow() { return view_; }
     [[nodiscard]] frmFS9& companionWindow() { return companion_; }
 
 private:
     [[nodiscard]] Form& window(WindowName name);
+    [[nodiscard]] Form& inFront();
+    void tellLater(StateTrouble trouble, const Failure& failure);
 
     ProcessState state_;
     ArchivePaths paths_;
+    StateStore store_;
     modLanguageSupport language_;
     Prompts prompts_;
     ToolkitTexts toolkitTexts_;

@@ -332,6 +332,17 @@ private Q_SLOTS:
                 u"OUT"_s);
     }
 
+    void whatCannotBeRememberedIsTold() {
+        const auto test = started();
+        test->write(u"Stato/drafts"_s, "damaged");
+        QVERIFY(test->program().store().read({u"drafts"_s}).isEmpty());
+        QTRY_VERIFY(lastTold(*test).contains(u"Stato/drafts"_s)); // once the reader has done its own work
+        QVERIFY(QDir(test->path(u"Stato"_s)).removeRecursively());
+        test->write(u"Stato"_s, "no folder");
+        test->program().store().write({u"drafts"_s}, "typed");
+        QTRY_VERIFY(lastTold(*test).startsWith(builtInText(u"0181"_s)));
+    }
+
     void aWindowThatGoesTakesItsMessageAlong() {
         auto* window = new QWidget;
         QTimer::singleShot(0, window, [window] { delete window; });

@@ -108,7 +108,7 @@ private Q_SLOTS:
             if (english) test.write(u"LangSetting.ini"_s, "[Language]\r\nCurrentLanguage=English\r\n");
             for (const auto& file : {u"English.lng"_s, u"Italiano.lng"_s, u"LangSetting.ini"_s})
                 if (!english) QVERIFY(QFile::remove(test.path(file)));
-            Program program(QFileInfo(test.path(u"LangSetting.ini"_s)).path(),
+            Program program({test.programFolder(), {}},
                             {test.boxes, test.sounds, test.printer, test.urls, test.screen, test.end,
                              test.beeper, test.icons},
                             test.presenter);

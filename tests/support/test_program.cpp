@@ -51,8 +51,9 @@ void TestProgram::addChart(const QString& relative, QSize size) const {
 }
 
 void TestProgram::start() {
-    program_ = std::make_unique<Program>(
-        programFolder(), Services{*asks, sounds, printer, urls, screen, end, beeper, icons}, *presents);
+    program_ = std::make_unique<Program>(ProgramFolder{programFolder(), {}},
+                                         Services{*asks, sounds, printer, urls, screen, end, beeper, icons},
+                                         *presents);
     program_->show(WindowName::frmMain);
     if (!QTest::qWaitForWindowActive(mainWindow())) qFatal("the main window does not become active");
 }

@@ -1,6 +1,6 @@
-#include "archive/program_folder.h"
-#include "archive/starter.h"
 #include "files/staging_folder.h"
+#include "install/program_folder.h"
+#include "install/starter.h"
 #include "support/disk.h"
 
 #include <QDir>

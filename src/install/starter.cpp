@@ -1,39 +1,20 @@
-#include "archive/starter.h"
+#include "install/starter.h"
 
-#include "archive/paths.h"
 #include "files/lookup.h"
+#include "files/make_folder.h"
 #include "files/staging_folder.h"
-#include "files/system_error.h"
 #include "files/whole_copy.h"
 #include "files/whole_file.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QStringList>
-#include <cerrno>
 #include <memory>
-#include <sys/stat.h>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace quarvel {
 namespace {
-
-const QString archiveName = u"aeroporti"_s;
-
-/// Makes a folder where there is none. Those above it are made for the user alone, as is the custom for the
-/// folder of the user's data.
-Result<void> makeFolder(const QString& path, mode_t mode) {
-    const QFileInfo info(path);
-    if (info.isDir()) return {};
-    if (const QString above = info.path(); above != path)
-        if (Result<void> made = makeFolder(above, 0700); !made) return made;
-    if (::mkdir(QFile::encodeName(path).constData(), mode) == 0) return {};
-    const int error = errno;
-    if (QFileInfo(path).isDir()) return {}; // another start was quicker
-    return writeFailure(path, error);
-}
 
 /// What the starter has and the program folder lacks.
 struct Missing {
@@ -44,7 +25,7 @@ struct Missing {
 
 Result<Missing> findMissing(const ProgramFolder& folder) {
     Missing missing;
-    const Result<bool> archive = isTaken(folder.path, archiveName);
+    const Result<bool> archive = isTaken(folder.path, archiveName());
     if (!archive) return archive.failure();
     missing.archive = !archive.value();
     const Result<QStringList> files = listFiles(folder.starter);
@@ -71,8 +52,10 @@ public:
         for (const QString& name : missing.files)
             place(name, copyWholeFile(folder_.starter + u'/' + name, staged(name)));
         if (missing.archive)
-            place(archiveName,
-                  copyWholeFolder(ArchivePaths(folder_.starter).archiveFolder(), staged(archiveName)));
+            place(archiveName(),
+                  resolvePath(folder_.starter, archiveName()).then([&](const QString& archive) {
+                      return copyWholeFolder(archive, staged(archiveName()));
+                  }));
         flushFolder(folder_.path);
     }
     [[nodiscard]] const Result<void>& result() const { return result_; }
@@ -102,7 +85,10 @@ Result<void> layOutProgramFolder(const ProgramFolder& folder) {
     const Result<Missing> missing = findMissing(folder);
     if (!missing) return missing.failure();
     if (!missing.value().any()) return {};
-    if (Result<void> made = makeFolder(folder.path, 0777); !made) return made;
+    // Those above it are made for the user alone, as is the custom for the folder of the user's data.
+    if (Result<void> made = makeFolder(QFileInfo(folder.path).path(), FolderAccess::OwnerOnly); !made)
+        return made;
+    if (Result<void> made = makeFolder(folder.path, FolderAccess::Usual); !made) return made;
     const auto staging = StagingFolder::make(folder.path);
     if (!staging) return staging.failure();
     LayingOut laying(folder, *staging.value());

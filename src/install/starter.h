@@ -1,7 +1,7 @@
 #pragma once
 
-#include "archive/program_folder.h"
 #include "files/result.h"
+#include "install/program_folder.h"
 
 namespace quarvel {
 

@@ -4,6 +4,9 @@
 
 namespace quarvel {
 
+/// The name of the folder that holds all airports.
+[[nodiscard]] inline QString archiveName() { return QStringLiteral("aeroporti"); }
+
 /// What decides where the program folder is.
 struct Surroundings {
     QString executableFolder;              ///< absolute

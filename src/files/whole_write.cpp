@@ -96,10 +96,10 @@ private:
         if (files_.size() == 1) return failure;
         QStringList renewed;
         std::vector<StagedFile*> unsure; // whose old selves are to be kept
-        for (auto file = files_.rbegin(); file != files_.rend(); ++file) {
-            const bool back = file->takeNameBack();
-            if (!back) renewed.prepend(file->known());
-            if (file->replaces() && (!back || file->isInDoubt())) unsure.push_back(&*file);
+        for (StagedFile& file : std::ranges::reverse_view(files_)) {
+            const bool back = file.takeNameBack();
+            if (!back) renewed.prepend(file.known());
+            if (file.replaces() && (!back || file.isInDoubt())) unsure.push_back(&file);
         }
         // Only now: keeping moves them.
         QStringList oldSelves;

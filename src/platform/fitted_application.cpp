@@ -2,7 +2,6 @@
 
 #include <QScreen>
 #include <algorithm>
-#include <cmath>
 
 namespace quarvel {
 namespace {
@@ -14,8 +13,8 @@ constexpr const char* startVariable = "DESKTOP_STARTUP_ID";
 // already on the screen.
 constexpr double titleBar = 38;
 constexpr double border = 5;
-constexpr double smallestPart = 0.1; // a screen that is smaller still is none
-constexpr double steps = 100;
+
+constexpr int exactDigits = 17; // of a double
 
 /// A variable of the environment, given another value for a while.
 class Lent {
@@ -47,12 +46,12 @@ double aroundMiddle(double from, double to, double workFrom, double workTo) {
 
 } // namespace
 
-double fittingPart(QSizeF client, const QRectF& screen, const QRectF& work) {
+double fittingPart(QSizeF client, const QRectF& screen, const QRectF& work, double scale) {
     const double width = aroundMiddle(screen.left(), screen.right(), work.left(), work.right());
     const double height = aroundMiddle(screen.top(), screen.bottom(), work.top(), work.bottom());
     const double part =
         std::min((width - 2 * border) / client.width(), (height - titleBar - border) / client.height());
-    return part >= 1 ? 1 : std::max(smallestPart, part);
+    return std::clamp(part, std::min(1.0, 1 / scale), 1.0);
 }
 
 FittedApplication::FittedApplication(int& argc, char** argv)
@@ -63,14 +62,15 @@ FittedApplication::FittedApplication(int& argc, char** argv)
 void FittedApplication::fit(QSizeF largest) {
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (screen == nullptr) return;
-    const double part = fittingPart(largest, screen->geometry(), screen->availableGeometry());
+    const double part =
+        fittingPart(largest, screen->geometry(), screen->availableGeometry(), screen->devicePixelRatio());
     if (part == 1) return;
     bool isNumber = false;
     const double set = qgetenv(scaleVariable).toDouble(&isNumber);
-    const double wanted = std::floor(part * (isNumber && set > 0 ? set : 1) * steps) / steps;
+    const double wanted = part * (isNumber && set > 0 ? set : 1);
     application_.reset();
     // Programs that this one starts keep the scale that the user has chosen.
-    const Lent scale(scaleVariable, QByteArray::number(wanted));
+    const Lent scale(scaleVariable, QByteArray::number(wanted, 'g', exactDigits));
     if (!startId_.isEmpty()) qputenv(startVariable, startId_);
     application_.emplace(argc_, argv_);
 }

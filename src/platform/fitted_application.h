@@ -10,8 +10,9 @@ namespace quarvel {
 
 /// The part of its present scale, above 0 and at most 1, at which a window with an inside of `client`, in its
 /// frame and in the middle of `screen`, lies within `work`, the part of the screen that panels leave. All in
-/// logical pixels of the present scale.
-[[nodiscard]] double fittingPart(QSizeF client, const QRectF& screen, const QRectF& work);
+/// logical pixels of the present `scale`, 1 for 100 %. Below 100 % nothing is lowered: the toolkit does not
+/// paint whole widgets there.
+[[nodiscard]] double fittingPart(QSizeF client, const QRectF& screen, const QRectF& work, double scale);
 
 /// The application object. Windows whose size is fixed may be larger than the screen at the scale that the
 /// desktop has chosen; then the whole program takes a smaller one.

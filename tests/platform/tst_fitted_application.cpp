@@ -19,26 +19,36 @@ private Q_SLOTS:
     void windowInTheMiddleKeepsOffThePanels_data() {
         QTest::addColumn<QRectF>("screen");
         QTest::addColumn<QRectF>("work");
+        QTest::addColumn<double>("scale");
         QTest::addColumn<double>("part");
-        QTest::newRow("large enough") << QRectF(0, 0, 1024, 768) << QRectF(0, 0, 1024, 728) << 1.0;
-        QTest::newRow("too low") << QRectF(0, 0, 960, 540) << QRectF(0, 0, 960, 540) << 497.0 / 595;
-        QTest::newRow("too narrow") << QRectF(1920, 0, 683, 700) << QRectF(1920, 0, 683, 700) << 673.0 / 752;
-        QTest::newRow("panel below") << QRectF(0, 0, 960, 640) << QRectF(0, 0, 960, 600) << 517.0 / 595;
-        QTest::newRow("panel at the left")
-            << QRectF(0, 0, 800, 800) << QRectF(64, 0, 736, 800) << 662.0 / 752;
-        QTest::newRow("no screen to speak of") << QRectF() << QRectF() << 0.1;
+        const auto row = [](const char* name, QRectF screen, QRectF work, double scale, double part) {
+            QTest::newRow(name) << screen << work << scale << part;
+        };
+        row("large enough", {0, 0, 1024, 768}, {0, 0, 1024, 728}, 2, 1);
+        row("too low", {0, 0, 960, 540}, {0, 0, 960, 540}, 2, 497.0 / 595);
+        row("too narrow", {1920, 0, 683, 700}, {1920, 0, 683, 700}, 2, 673.0 / 752);
+        row("panel below", {0, 0, 960, 640}, {0, 0, 960, 600}, 2, 517.0 / 595);
+        row("panel at the left", {0, 0, 800, 800}, {64, 0, 736, 800}, 2, 662.0 / 752);
+        row("never below 100 %", {0, 0, 640, 400}, {0, 0, 640, 400}, 1.25, 0.8);
+        row("at 100 %", {0, 0, 1024, 600}, {0, 0, 1024, 600}, 1, 1);
+        row("below it already", {0, 0, 1024, 600}, {0, 0, 1024, 600}, 0.5, 1);
+        row("no screen to speak of", {}, {}, 2, 0.5);
     }
     void windowInTheMiddleKeepsOffThePanels() {
         QFETCH(QRectF, screen);
         QFETCH(QRectF, work);
-        QTEST(fittingPart(window, screen, work), "part");
+        QFETCH(double, scale);
+        QTEST(fittingPart(window, screen, work, scale), "part");
     }
 
     void scaleIsLoweredAndOnlyForThisProgram() {
         const QScreen* screen = QGuiApplication::primaryScreen();
         QVERIFY(screen->devicePixelRatio() < 2); // what main() has asked for
-        QCOMPARE(fittingPart(window, screen->geometry(), screen->availableGeometry()), 1.0);
-        QVERIFY(fittingPart(window * 1.02, screen->geometry(), screen->availableGeometry()) < 1);
+        const auto part = [screen](QSizeF size) {
+            return fittingPart(size, screen->geometry(), screen->availableGeometry(), 2);
+        };
+        QVERIFY(part(window) > 0.999999);
+        QVERIFY(part(window * 1.02) < 1);
         QCOMPARE(qgetenv("QT_SCALE_FACTOR"), QByteArray("2"));
     }
 };

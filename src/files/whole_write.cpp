@@ -96,11 +96,11 @@ private:
         if (files_.size() == 1) return failure;
         QStringList renewed;
         std::vector<StagedFile*> unsure; // whose old selves are to be kept
-        for (StagedFile& file : std::ranges::reverse_view(files_)) {
+        std::for_each(files_.rbegin(), files_.rend(), [&](StagedFile& file) {
             const bool back = file.takeNameBack();
             if (!back) renewed.prepend(file.known());
             if (file.replaces() && (!back || file.isInDoubt())) unsure.push_back(&file);
-        }
+        });
         // Only now: keeping moves them.
         QStringList oldSelves;
         for (const StagedFile* file : unsure)

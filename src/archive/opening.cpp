@@ -16,7 +16,7 @@ Result<bool> hasPicture(const ArchivePaths& paths, const QString& name, const QS
     const Result<QString> folder = paths.generalFolder(name);
     if (!folder) return folder.failure();
     const QString code = trimBlanks(icao);
-    const Result<bool> asWritten = holdsExactly(folder.value(), code + u".gif"_s);
+    Result<bool> asWritten = holdsExactly(folder.value(), code + u".gif"_s);
     if (!asWritten || asWritten.value()) return asWritten;
     return holdsExactly(folder.value(), code.toLower() + u".gif"_s);
 }

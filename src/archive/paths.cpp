@@ -46,7 +46,7 @@ Result<QString> ArchivePaths::dataFileForWriting(const QString& name) const {
 
 Result<QString> ArchivePaths::picture(const QString& name, const QString& icao) const {
     const Result<QString> folder = generalFolder(name);
-    if (!folder) return folder;
+    if (!folder) return folder.failure();
     const QString file = trimBlanks(icao) + u".gif"_s;
     // The lower-case form goes before any other mixture: it is the one that the opening check may have found.
     for (const QString& exact : {file, file.toLower()}) {

@@ -37,7 +37,7 @@ int main(int argc, char** argv) {
     quarvel::QtFormPrinter printer;
     quarvel::QtUrlOpener urls;
     quarvel::QtScreen screen;
-    quarvel::RealProcessEnd process;
+    quarvel::RealProcessEnd process([&printer] { printer.finish(); });
     quarvel::QtBeeper beeper;
     quarvel::DesktopNotificationArea notificationArea;
     quarvel::AirportPresenter presenter([] { return std::make_unique<quarvel::EspeakVoice>(); });

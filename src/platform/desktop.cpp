@@ -31,7 +31,10 @@ double QtScreen::twipsPerPixelY() const {
 
 void QtUrlOpener::open(const QString& url) { QDesktopServices::openUrl(QUrl(url)); }
 
-void RealProcessEnd::endNow() { std::_Exit(EXIT_SUCCESS); }
+void RealProcessEnd::endNow() {
+    finish_();
+    std::_Exit(EXIT_SUCCESS);
+}
 
 void QtBeeper::beep() { QApplication::beep(); }
 

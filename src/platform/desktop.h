@@ -2,6 +2,8 @@
 
 #include <QRect>
 #include <QString>
+#include <functional>
+#include <utility>
 
 namespace quarvel {
 
@@ -63,7 +65,12 @@ public:
 
 class RealProcessEnd : public ProcessEnd {
 public:
+    /// `finish` is given the chance to bring to an end, within half a second, what the process does behind.
+    explicit RealProcessEnd(std::function<void()> finish) : finish_(std::move(finish)) {}
     void endNow() override;
+
+private:
+    std::function<void()> finish_;
 };
 
 class QtBeeper : public Beeper {

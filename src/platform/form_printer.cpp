@@ -5,6 +5,7 @@
 #include <QLibrary>
 #include <QPixmap>
 #include <QWidget>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -24,11 +25,18 @@ PrintOnDefaultPrinter openPrinting() {
     return nullptr;
 }
 
+PrintOutcome printPicture(const QImage& picture, const QString& title,
+                          const std::function<bool()>& mayBegin) {
+    static const PrintOnDefaultPrinter print = openPrinting();
+    return print == nullptr ? PrintOutcome::Failed : print(picture, title, mayBegin);
+}
+
 } // namespace
 
-PrintOutcome QtFormPrinter::print(QWidget& window) {
-    static const PrintOnDefaultPrinter printPicture = openPrinting();
-    return printPicture == nullptr ? PrintOutcome::Failed : printPicture(window.grab(), window.windowTitle());
+QtFormPrinter::QtFormPrinter() : queue_(printPicture) {}
+
+void QtFormPrinter::print(QWidget& window, std::function<void(PrintOutcome)> done) {
+    queue_.add({window.grab().toImage(), window.windowTitle()}, std::move(done));
 }
 
 } // namespace quarvel

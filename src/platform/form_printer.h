@@ -1,6 +1,6 @@
 #pragma once
 
-#include "printing/default_printer.h"
+#include "platform/print_queue.h"
 
 class QWidget;
 
@@ -13,13 +13,21 @@ public:
     FormPrinter(const FormPrinter&) = delete;
     FormPrinter& operator=(const FormPrinter&) = delete;
     virtual ~FormPrinter() = default;
-    [[nodiscard]] virtual PrintOutcome print(QWidget& window) = 0;
+    /// Takes the window's picture and returns: the page is printed behind. `done` hears what became of it,
+    /// from the event loop.
+    virtual void print(QWidget& window, std::function<void(PrintOutcome)> done) = 0;
 };
 
 /// Prints on the default printer: the window's inside at screen resolution.
 class QtFormPrinter : public FormPrinter {
 public:
-    [[nodiscard]] PrintOutcome print(QWidget& window) override;
+    QtFormPrinter();
+    void print(QWidget& window, std::function<void(PrintOutcome)> done) override;
+    /// Before the process ends: see PrintQueue::finish().
+    void finish() { queue_.finish(); }
+
+private:
+    PrintQueue queue_;
 };
 
 } // namespace quarvel

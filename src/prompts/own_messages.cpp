@@ -100,6 +100,11 @@ constexpr std::array messages = {
                u"parte, e al suo posto ne comincia uno nuovo. I tuoi aeroporti sono come prima.\n%1"},
     OwnMessage{u"0181", u"Il programma non può conservare ciò che ricorda per sé, come le bozze: lo ricorda "
                         u"solo finché resta aperto."},
+    // What came of printing.
+    OwnMessage{u"0250", u"Il servizio di stampa del sistema non risponde: non è stato stampato nulla e nulla "
+                        u"sarà stampato più tardi. Controlla che sia avviato e raggiungibile, poi riprova."},
+    OwnMessage{u"0251", u"Il servizio di stampa ha smesso di rispondere mentre riceveva la pagina: non si sa "
+                        u"se sarà stampata. Prima di riprovare guarda nella coda della stampante."},
 };
 
 } // namespace

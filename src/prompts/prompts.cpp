@@ -2,7 +2,8 @@
 
 #include "prompts/own_messages.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +35,13 @@ QString numberOf(Fault fault) {
 const QString partlySaved = u"0174"_s;
 const QString partlyMade = u"0173"_s; ///< the reason, when what is new replaced nothing
 const QString otherNames = u"0175"_s;
+
+/// What is told late may come when its window is hidden or gone.
+QWidget* parentFor(const Form& form) {
+    QWidget* const window = form.window();
+    QWidget* const front = QApplication::activeWindow();
+    return front == nullptr || (window != nullptr && window->isVisible()) ? window : front;
+}
 
 } // namespace
 
@@ -77,17 +85,25 @@ void Prompts::tell(Form& form, Task task, const QString& path) {
 void Prompts::tell(Form& form, Task task) { showOwn(form, text(numberOf(task))); }
 
 void Prompts::printWindow(Form& form, FormPrinter& printer) {
-    switch (printer.print(*form.window())) {
+    printer.print(*form.window(), [this, &form, life = QPointer<QObject>(&life_)](PrintOutcome outcome) {
+        if (life != nullptr) tellPrinted(form, outcome);
+    });
+}
+
+void Prompts::tellPrinted(Form& form, PrintOutcome outcome) {
+    switch (outcome) {
     case PrintOutcome::Printed: break;
     case PrintOutcome::NoPrinter: tell(form, Task::FindPrinter); break;
     case PrintOutcome::Failed: tell(form, Task::Print); break;
+    case PrintOutcome::NoAnswer: tell(form, Task::AskPrintingService); break;
+    case PrintOutcome::Unconfirmed: tell(form, Task::ConfirmPrint); break;
     }
 }
 
 void Prompts::showOwn(Form& form, const QString& text) {
     const Form::OwnBox own(form);
     const MessageBox box{text, this->text(u"0101"_s), Buttons::Ok, BoxIcon::Exclamation};
-    static_cast<void>(boxes_.show(form.window(), box, captions()));
+    static_cast<void>(boxes_.show(parentFor(form), box, captions()));
 }
 
 } // namespace quarvel

@@ -6,6 +6,7 @@
 #include "platform/form_printer.h"
 #include "platform/message_boxes.h"
 
+#include <QObject>
 #include <QString>
 
 namespace quarvel {
@@ -30,6 +31,8 @@ enum class Task {
     PrepareProgramFolder = 147, ///< at the start, from what the program was installed with
     UseState = 180,             ///< a file of what the program remembers; it was set aside
     KeepState = 181,            ///< the same, to be written
+    AskPrintingService = 250,   ///< a printing service that does not answer; nothing was printed
+    ConfirmPrint = 251,         ///< one that fell silent while it took the page
 };
 
 /// The window's own questions and messages, in the current language.
@@ -51,16 +54,19 @@ public:
     /// Tells a refusal that concerns no file.
     void tell(Form& form, Task task);
 
-    /// Prints a window as it looks now, and tells when that cannot be done.
+    /// Prints a window as it looks now, behind, and tells when that could not be done: on the window, or on
+    /// the one in front when it has gone meanwhile.
     void printWindow(Form& form, FormPrinter& printer);
 
 private:
     [[nodiscard]] QString text(const QString& number);
     [[nodiscard]] ButtonCaptions captions();
+    void tellPrinted(Form& form, PrintOutcome outcome);
     void showOwn(Form& form, const QString& text);
 
     modLanguageSupport& language_;
     MessageBoxes& boxes_;
+    QObject life_; ///< who still prints may tell nobody once this is gone
 };
 
 } // namespace quarvel

@@ -39,9 +39,9 @@ class PaperlessPrinter : public FormPrinter {
 public:
     PrintOutcome outcome = PrintOutcome::Printed;
     int pages = 0;
-    PrintOutcome print(QWidget& window) override {
+    void print(QWidget& window, std::function<void(PrintOutcome)> done) override {
         pages += outcome == PrintOutcome::Printed && !window.grab().isNull() ? 1 : 0;
-        return outcome;
+        done(outcome);
     }
 };
 

@@ -1,18 +1,31 @@
 #include "forms/text_box.h"
 #include "forms/typing.h"
 
+#include <QDropEvent>
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QScopedValueRollback>
 #include <QTextDocument>
 #include <QTextOption>
 #include <algorithm>
 #include <limits>
+#include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace quarvel {
 namespace {
+
+/// A document's text with every character it has: the toolkit's plain text turns no-break blanks into blanks.
+QString withLineFeeds(QString raw) {
+    return raw.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+}
+
+/// A text as it will stand in the document: a line break is one character there.
+QString pastedText(const QMimeData& source) { return source.text().replace("\r\n"_L1, "\n"_L1); }
 
 class NotesEdit : public QPlainTextEdit {
 public:
@@ -44,18 +57,54 @@ protected:
         if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason)
             events_.lostFocus.raise();
     }
+    QMimeData* createMimeDataFromSelection() const override {
+        auto selection = std::make_unique<QMimeData>();
+        selection->setText(withLineFeeds(textCursor().selectedText()));
+        return selection.release();
+    }
     void insertFromMimeData(const QMimeData* source) override {
-        if (source->hasText()) insertPlainText(source->text().left(room()));
+        if (!source->hasText()) return;
+        const QString text = pastedText(*source);
+        const qsizetype taken = movesInside_ ? text.size() : std::min(text.size(), room());
+        insertPlainText(text.left(taken));
+        if (hasWordsFrom(text, taken)) events_.cut.raise();
+    }
+    void dragEnterEvent(QDragEnterEvent* event) override {
+        QPlainTextEdit::dragEnterEvent(event);
+        answerDrop(*event, kindOf(*event));
+    }
+    void dragMoveEvent(QDragMoveEvent* event) override {
+        QPlainTextEdit::dragMoveEvent(event);
+        answerDrop(*event, kindOf(*event));
+    }
+    void dropEvent(QDropEvent* event) override {
+        const DropKind kind = kindOf(*event);
+        const QScopedValueRollback inside(movesInside_, comesFromInside(*event));
+        if (kind != DropKind::Refused) QPlainTextEdit::dropEvent(event);
+        answerDrop(*event, kind);
     }
 
 private:
     /// How many characters can still be typed or pasted over the selection.
-    [[nodiscard]] qsizetype room() const {
+    [[nodiscard]] qsizetype room() const { return roomBeside(textCursor().selectedText().size()); }
+
+    /// The same where something else than the selection goes.
+    [[nodiscard]] qsizetype roomBeside(qsizetype going) const {
         if (longest == 0) return std::numeric_limits<qsizetype>::max();
-        const qsizetype kept = document()->characterCount() - 1 - textCursor().selectedText().size();
+        const qsizetype kept = document()->characterCount() - 1 - going;
         return std::max<qsizetype>(0, longest - kept);
     }
 
+    /// A text that is moved inside the box makes the room that it needs, be the box fuller than it may be.
+    [[nodiscard]] bool comesFromInside(const QDropEvent& event) const {
+        return event.source() == viewport() && event.proposedAction() == Qt::MoveAction;
+    }
+    [[nodiscard]] DropKind kindOf(const QDropEvent& event) const {
+        return dropKind(event,
+                        comesFromInside(event) || pastedText(*event.mimeData()).size() <= roomBeside(0));
+    }
+
+    bool movesInside_ = false;
     TextBoxEvents& events_;
 };
 
@@ -73,11 +122,7 @@ MultiLineTextBox::MultiLineTextBox(Container& container, const ControlSpec& spec
 
 QPlainTextEdit& MultiLineTextBox::edit() const { return static_cast<QPlainTextEdit&>(widget()); }
 
-QString MultiLineTextBox::text() const {
-    // The plain text would turn no-break blanks into blanks; a note keeps every character it has.
-    QString text = edit().document()->toRawText();
-    return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
-}
+QString MultiLineTextBox::text() const { return withLineFeeds(edit().document()->toRawText()); }
 
 void MultiLineTextBox::setText(const QString& text) { edit().setPlainText(text); }
 

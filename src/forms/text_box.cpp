@@ -2,14 +2,18 @@
 
 #include "forms/typing.h"
 
+#include <QDropEvent>
 #include <QFocusEvent>
 #include <QFont>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QValidator>
 #include <algorithm>
+#include <functional>
 #include <limits>
 
 namespace quarvel {
@@ -20,6 +24,8 @@ namespace {
 class EntryLimit : public QValidator {
 public:
     using QValidator::QValidator;
+
+    std::function<void()> cut; ///< words of what was inserted did not fit
 
     void setLimit(int limit, const QString& present) {
         limit_ = limit;
@@ -32,10 +38,17 @@ public:
 
     State validate(QString& text, int& cursor) const override {
         qsizetype place = cursor;
+        const QString inserted = text;
         if (lineBreaks(text) > breaks_) keepFirstLine(text, place);
         if (limit_ > 0) keepToLength(text, place, allowed_);
+        if (text != inserted && hasWordsFrom(inserted.mid(place, cursor - place), 0)) cut();
         cursor = static_cast<int>(place);
         return Acceptable;
+    }
+
+    /// Whether a text that something was inserted into stays as it is.
+    [[nodiscard]] bool takesWhole(const QString& text) const {
+        return lineBreaks(text) <= breaks_ && (limit_ == 0 || text.size() <= allowed_);
     }
 
 private:
@@ -51,6 +64,9 @@ public:
     LineEdit(TextBoxEvents& events, const QFont& font) : font_(font), events_(events) {
         setValidator(&limit);
         setMaxLength(std::numeric_limits<int>::max()); // the box's own limit would cut what is stored
+        limit.cut = [this] {
+            if (!typing_) events_.cut.raise(); // typing just stops
+        };
     }
     EntryLimit limit;
 
@@ -61,6 +77,7 @@ protected:
     }
     void keyPressEvent(QKeyEvent* event) override {
         QKeyEvent filtered = filteredKeyPress(events_, *event);
+        const QScopedValueRollback typing(typing_, !event->matches(QKeySequence::Paste));
         QLineEdit::keyPressEvent(&filtered);
         event->setAccepted(filtered.isAccepted());
     }
@@ -69,7 +86,21 @@ protected:
         QInputMethodEvent filtered(event->preeditString(), event->attributes());
         filtered.setCommitString(filteredKeys(events_, event->commitString()), event->replacementStart(),
                                  event->replacementLength());
+        const QScopedValueRollback typing(typing_, true);
         QLineEdit::inputMethodEvent(&filtered);
+    }
+    void dragEnterEvent(QDragEnterEvent* event) override {
+        QLineEdit::dragEnterEvent(event);
+        answerDrop(*event, kindOf(*event));
+    }
+    void dragMoveEvent(QDragMoveEvent* event) override {
+        QLineEdit::dragMoveEvent(event);
+        answerDrop(*event, kindOf(*event));
+    }
+    void dropEvent(QDropEvent* event) override {
+        const DropKind kind = kindOf(*event);
+        if (kind != DropKind::Refused) QLineEdit::dropEvent(event);
+        answerDrop(*event, kind);
     }
     void keyReleaseEvent(QKeyEvent* event) override {
         QLineEdit::keyReleaseEvent(event);
@@ -84,6 +115,13 @@ protected:
     }
 
 private:
+    [[nodiscard]] DropKind kindOf(const QDropEvent& event) {
+        QString whole = text();
+        whole.insert(cursorPositionAt(event.position().toPoint()), event.mimeData()->text());
+        return dropKind(event, limit.takesWhole(whole));
+    }
+
+    bool typing_ = false;
     QFont font_;
     TextBoxEvents& events_;
 };

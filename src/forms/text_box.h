@@ -17,6 +17,7 @@ struct TextBoxEvents {
     Event<char16_t&> keyPress; ///< a character was typed; the handler may change it
     Event<int> keyUp;          ///< a key (Qt::Key) was released, whichever; not the repeats of a held one
     Event<> lostFocus;         ///< the focus went to another control of the window
+    Event<> cut;               ///< words of what was pasted or dropped did not fit into the box
 };
 
 /// A text box of one line; its text is centred.

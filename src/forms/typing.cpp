@@ -1,6 +1,8 @@
 #include "forms/typing.h"
 
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <algorithm>
 
 namespace quarvel {
@@ -35,6 +37,22 @@ QKeyEvent filteredKeyPress(const TextBoxEvents& events, const QKeyEvent& event) 
             event.isAutoRepeat(),
             static_cast<quint16>(event.count()),
             event.device()};
+}
+
+bool hasWordsFrom(const QString& text, qsizetype place) {
+    return std::any_of(text.cbegin() + place, text.cend(),
+                       [](QChar character) { return !character.isSpace(); });
+}
+
+DropKind dropKind(const QDropEvent& event, bool fits) {
+    if (event.proposedAction() != Qt::MoveAction) return DropKind::Whole;
+    if (fits && !event.mimeData()->hasUrls()) return DropKind::Whole;
+    return event.possibleActions().testFlag(Qt::CopyAction) ? DropKind::Copy : DropKind::Refused;
+}
+
+void answerDrop(QDropEvent& event, DropKind kind) {
+    if (kind == DropKind::Copy) event.setDropAction(Qt::CopyAction);
+    if (kind == DropKind::Refused) event.ignore();
 }
 
 qsizetype lineBreaks(const QString& text) { return std::count_if(text.cbegin(), text.cend(), isLineBreak); }

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class QDropEvent;
 class QKeyEvent;
 
 namespace quarvel {
@@ -13,6 +14,23 @@ namespace quarvel {
 
 /// The same key press with its typed text filtered.
 [[nodiscard]] QKeyEvent filteredKeyPress(const TextBoxEvents& events, const QKeyEvent& event);
+
+/// Whether a text holds more than blanks and line breaks from a place on: who pastes a cell of a table does
+/// not miss the line break behind it.
+[[nodiscard]] bool hasWordsFrom(const QString& text, qsizetype place);
+
+/// What a box makes of a drop before the toolkit does.
+enum class DropKind {
+    Whole,  ///< as it was proposed: all of the text fits
+    Copy,   ///< what fits is copied, and the source keeps all of it
+    Refused ///< the source lets it only be moved
+};
+
+/// Nothing leaves the source of a drop unless all of it arrives. A file never does: what arrives is its name.
+[[nodiscard]] DropKind dropKind(const QDropEvent& event, bool fits);
+/// Tells the source what becomes of its text, once the toolkit has taken the drop, or the move of one over
+/// the box. The event must have been accepted.
+void answerDrop(QDropEvent& event, DropKind kind);
 
 /// The line breaks in a text, of whichever kind.
 [[nodiscard]] qsizetype lineBreaks(const QString& text);

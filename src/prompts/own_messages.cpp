@@ -100,6 +100,10 @@ constexpr std::array messages = {
                u"parte, e al suo posto ne comincia uno nuovo. I tuoi aeroporti sono come prima.\n%1"},
     OwnMessage{u"0181", u"Il programma non può conservare ciò che ricorda per sé, come le bozze: lo ricorda "
                         u"solo finché resta aperto."},
+    // What is typed and not saved yet.
+    OwnMessage{u"0200",
+               u"Il testo incollato o trascinato è più lungo dello spazio che c'è nella casella: ne è "
+               u"entrato solo l'inizio. Il testo intero è ancora là da dove viene."},
     // What came of printing.
     OwnMessage{u"0250", u"Il servizio di stampa del sistema non risponde: non è stato stampato nulla e nulla "
                         u"sarà stampato più tardi. Controlla che sia avviato e raggiungibile, poi riprova."},

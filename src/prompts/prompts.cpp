@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QPointer>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -83,6 +84,10 @@ void Prompts::tell(Form& form, Task task, const QString& path) {
 }
 
 void Prompts::tell(Form& form, Task task) { showOwn(form, text(numberOf(task))); }
+
+void Prompts::tellSoon(Form& form, Task task) {
+    QTimer::singleShot(0, form.window(), [this, &form, task] { tell(form, task); });
+}
 
 void Prompts::printWindow(Form& form, FormPrinter& printer) {
     printer.print(*form.window(), [this, &form, life = QPointer<QObject>(&life_)](PrintOutcome outcome) {

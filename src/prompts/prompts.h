@@ -31,6 +31,7 @@ enum class Task {
     PrepareProgramFolder = 147, ///< at the start, from what the program was installed with
     UseState = 180,             ///< a file of what the program remembers; it was set aside
     KeepState = 181,            ///< the same, to be written
+    PasteText = 200,            ///< more was pasted or dropped than the box takes
     AskPrintingService = 250,   ///< a printing service that does not answer; nothing was printed
     ConfirmPrint = 251,         ///< one that fell silent while it took the page
 };
@@ -53,6 +54,8 @@ public:
     void tell(Form& form, Task task, const QString& path);
     /// Tells a refusal that concerns no file.
     void tell(Form& form, Task task);
+    /// The same once what is going on has ended: a box in the middle of a drop would hold up its source.
+    void tellSoon(Form& form, Task task);
 
     /// Prints a window as it looks now, behind, and tells when that could not be done: on the window, or on
     /// the one in front when it has gone meanwhile.

@@ -20,11 +20,13 @@ frmMain::frmMain(const frmMainNeeds& needs)
 void frmMain::wire() {
     c->txtNomeAeroporto.events.keyPress.calls(this, &frmMain::txtNomeAeroporto_KeyPress);
     c->txtNomeAeroporto.events.keyUp.calls(this, &frmMain::txtNomeAeroporto_KeyUp);
+    c->txtNomeAeroporto.events.cut.calls(this, &frmMain::tellCutText);
     c->lstWords.clicked.calls(this, &frmMain::lstWords_Click);
     c->cmdElabora.clicked.calls(this, &frmMain::cmdElabora_Click);
     c->txtRwy.forEach([this](int index, TextBox& field) {
         field.events.keyPress.calls(this, &frmMain::txtRwy_KeyPress, index);
         field.events.lostFocus.calls(this, &frmMain::txtRwy_LostFocus, index);
+        field.events.cut.calls(this, &frmMain::tellCutText);
     });
     c->cmdSave.clicked.calls(this, &frmMain::cmdSave_Click);
     c->cmdReset.clicked.calls(this, &frmMain::cmdReset_Click);

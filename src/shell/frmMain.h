@@ -78,6 +78,7 @@ private:
     // Entering and saving a new airport (frmMain_entry.cpp)
     void txtRwy_KeyPress(int index, char16_t& key);
     void txtRwy_LostFocus(int index);
+    void tellCutText();
     void refuseDesignator(int index);
     void cmdReset_Click();
     void cmdSave_Click();

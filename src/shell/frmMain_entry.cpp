@@ -25,6 +25,8 @@ void frmMain::txtRwy_LostFocus(int index) {
     if (designator.kind == DesignatorKind::Refused) refuseDesignator(index);
 }
 
+void frmMain::tellCutText() { prompts_.tellSoon(*this, Task::PasteText); }
+
 void frmMain::refuseDesignator(int index) {
     refusedDesignator_ = true;
     // A box in the middle of a change of focus would leave the button that was just pressed hanging.

@@ -37,6 +37,8 @@ void frmView::wire() {
     c->Text1.events.keyPress.calls(this, &frmView::Text1_KeyPress);
     c->Text2.events.keyPress.calls(this, &frmView::Text2_KeyPress);
     c->Text3.events.keyPress.calls(this, &frmView::Text3_KeyPress);
+    for (MultiLineTextBox* notes : {&c->Text1, &c->Text2, &c->Text3})
+        notes->events.cut.calls(this, &frmView::tellCutText);
     c->cmdSave.clicked.calls(this, &frmView::cmdSave_Click);
     c->Command1.clicked.calls(this, &frmView::Command1_Click);
     c->Command2.clicked.calls(this, &frmView::Command2_Click);

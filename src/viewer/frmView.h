@@ -83,6 +83,7 @@ private:
     void Text1_KeyPress(char16_t& key);
     void Text2_KeyPress(char16_t& key);
     void Text3_KeyPress(char16_t& key);
+    void tellCutText();
     [[nodiscard]] MultiLineTextBox& boxOf(NotesBox box) const;
 
     ProcessState& state_;

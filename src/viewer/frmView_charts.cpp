@@ -129,6 +129,8 @@ void frmView::Text2_KeyPress(char16_t& key) { key = UpperCaseKey(key); }
 
 void frmView::Text3_KeyPress(char16_t& key) { key = UpperCaseKey(key); }
 
+void frmView::tellCutText() { prompts_.tellSoon(*this, Task::PasteText); }
+
 MultiLineTextBox& frmView::boxOf(NotesBox box) const {
     switch (box) {
     case NotesBox::Text1: return c->Text1;

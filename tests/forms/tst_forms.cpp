@@ -6,8 +6,11 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QListView>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QTest>
+#include <QUrl>
+#include <tuple>
 
 using namespace quarvel;
 using namespace Qt::StringLiterals;
@@ -22,7 +25,9 @@ struct Inside : QWidget, Container {
 
 struct Handlers {
     int clicks = 0;
+    int cuts = 0;
     void clicked() { ++clicks; }
+    void cut() { ++cuts; }
     void capital(char16_t& key) { key = UpperCaseKey(key); }
 };
 
@@ -30,7 +35,55 @@ struct Handlers {
 struct Short : Inside {
     TextBox box{*this, {.name = "box", .place = {0, 0, 1500, 450}}};
     QLineEdit& edit = static_cast<QLineEdit&>(box.widget());
-    Short() { box.setLongestTyped(4); }
+    Handlers handlers;
+    Short() {
+        box.setLongestTyped(4);
+        box.events.cut.calls(&handlers, &Handlers::cut);
+    }
+};
+
+/// Two boxes of ten characters to drag between, and one line of four.
+struct Dragging : Inside {
+    MultiLineTextBox from{*this, {.name = "from", .place = {0, 0, 3000, 1500}, .align = Qt::AlignLeft}};
+    MultiLineTextBox to{*this, {.name = "to", .place = {0, 1600, 3000, 1500}, .align = Qt::AlignLeft}};
+    TextBox line{*this, {.name = "line", .place = {0, 3200, 3000, 450}}};
+    Handlers handlers;
+
+    Dragging() {
+        line.setLongestTyped(4);
+        line.events.cut.calls(&handlers, &Handlers::cut);
+        for (MultiLineTextBox* box : {&from, &to}) {
+            box->setLongestTyped(10);
+            box->events.cut.calls(&handlers, &Handlers::cut);
+        }
+        show();
+    }
+
+    /// Drags the first characters of a box to the end of another control's text. The source does what the
+    /// toolkit's own does: what was moved leaves it.
+    static void drag(const MultiLineTextBox& source, int characters, QWidget& target) {
+        auto& edit = static_cast<QPlainTextEdit&>(source.widget());
+        QTextCursor selected(edit.document());
+        selected.setPosition(characters, QTextCursor::KeepAnchor);
+        edit.setTextCursor(selected);
+        edit.copy();
+        const QMimeData* const text = QGuiApplication::clipboard()->mimeData();
+        if (drop(*text, target) == Qt::MoveAction) selected.removeSelectedText();
+    }
+
+    /// What becomes of a drop that its source lets be moved or copied, and would move.
+    static Qt::DropAction drop(const QMimeData& dropped, QWidget& target) {
+        auto* const notes = qobject_cast<QPlainTextEdit*>(&target);
+        QWidget& over = notes != nullptr ? *notes->viewport() : target;
+        const QPoint end(over.width() - 25, over.height() / 2);
+        constexpr auto actions = Qt::CopyAction | Qt::MoveAction;
+        QDragEnterEvent enter(end, actions, &dropped, Qt::LeftButton, Qt::ShiftModifier);
+        QCoreApplication::sendEvent(&over, &enter);
+        QDropEvent event(end, actions, &dropped, Qt::LeftButton, Qt::ShiftModifier);
+        QCoreApplication::sendEvent(&over, &event);
+        return event.isAccepted() && event.dropAction() == enter.dropAction() ? event.dropAction()
+                                                                              : Qt::IgnoreAction;
+    }
 };
 
 } // namespace
@@ -59,6 +112,55 @@ private Q_SLOTS:
         window.edit.paste();
         QTest::keyClicks(&window.edit, u"X"_s);
         QCOMPARE(window.box.text(), u"AN4B"_s);
+        window.edit.clear();
+        QGuiApplication::clipboard()->setText(u"N4\r\n"_s); // a cell of a table: no word of it is lost
+        window.edit.paste();
+        QCOMPARE(window.handlers.cuts, 1);
+    }
+
+    void nothingLeavesADraggedTextsSourceUnlessAllArrives_data() {
+        QTest::addColumn<QStringList>("texts"); // from and to before, from and the target afterwards
+        QTest::addColumn<int>("characters");
+        QTest::addColumn<QString>("target");
+        QTest::addColumn<int>("told");
+        const QList<std::tuple<const char*, QStringList, int, QString, int>> rows = {
+            {"what fits moves", {u"abc"_s, u"123"_s, u"c"_s, u"123ab"_s}, 2, u"to"_s, 0},
+            {"what does not fit stays", {u"abc"_s, u"123456789"_s, u"abc"_s, u"123456789a"_s}, 3, u"to"_s, 1},
+            {"to a box that is full", {u"abc"_s, u"1234567890"_s, u"abc"_s, u"1234567890"_s}, 3, u"to"_s, 1},
+            {"no-break blanks too", {u"a\u00A0b"_s, {}, {}, u"a\u00A0b"_s}, 3, u"to"_s, 0},
+            {"to a shorter line", {u"abcdef"_s, {}, u"abcdef"_s, u"abcd"_s}, 6, u"line"_s, 1},
+            {"lines to one line", {u"a\nb"_s, {}, u"a\nb"_s, u"a"_s}, 3, u"line"_s, 1},
+        };
+        for (const auto& [name, texts, characters, target, told] : rows)
+            QTest::newRow(name) << texts << characters << target << told;
+    }
+    void nothingLeavesADraggedTextsSourceUnlessAllArrives() {
+        QFETCH(QStringList, texts);
+        QFETCH(int, characters);
+        QFETCH(QString, target);
+        Dragging window;
+        window.from.setText(texts[0]);
+        window.to.setText(texts[1]);
+        Dragging::drag(window.from, characters, *window.findChild<QWidget*>(target));
+        QCOMPARE(window.from.text(), texts[2]);
+        QCOMPARE(target == u"to"_s ? window.to.text() : window.line.text(), texts[3]);
+        QTEST(window.handlers.cuts, "told");
+    }
+
+    void aLockedBoxTakesNothing() {
+        Dragging window;
+        window.from.setText(u"abc"_s);
+        window.to.setEditing(Editing::Locked);
+        Dragging::drag(window.from, 2, window.to.widget());
+        QCOMPARE(window.from.text() + window.to.text(), u"abc"_s);
+    }
+
+    void aDraggedFileStaysWhereItIs() {
+        Dragging window;
+        QMimeData file;
+        file.setUrls({QUrl(u"file:///tmp/a"_s)});
+        window.to.setLongestTyped(0);
+        QCOMPARE(Dragging::drop(file, window.to.widget()), Qt::CopyAction);
     }
 
     void notesStopAtTheirLength() {

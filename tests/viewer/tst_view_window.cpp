@@ -2,6 +2,7 @@
 #include "support/test_program.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
@@ -121,6 +122,16 @@ private Q_SLOTS:
         test.clickRow(u"List1"_s, 1);
         test.clickRow(u"List1"_s, 2);
         QCOMPARE(test.notes(u"Text1"_s), u"prima\nseconda"_s);
+    }
+
+    void aPasteThatIsCutIsToldOnceItIsOver() {
+        Viewer test;
+        test.choose(u"Option1(0)"_s, 1);
+        QGuiApplication::clipboard()->setText(QString(15001, u'x'));
+        test.box(u"Text1"_s)->paste();
+        QVERIFY(test.boxes.shown.isEmpty()); // a drop would still be waiting for its answer
+        QTRY_VERIFY(!test.boxes.shown.isEmpty() && test.said().contains(u"solo l'inizio"_s));
+        QCOMPARE(test.notes(u"Text1"_s).size(), 15000);
     }
 
     void savingNeedsAChartOfTheListAndWhatCanBeStored() {

@@ -27,6 +27,8 @@ frmFS9::Loaded frmFS9::LoadCompanionPicture() {
     }
     // A layout recorded without a picture would scale every later one to the size of none.
     if (!std::exchange(hasPicture_, true)) Resizer->recordAnew(c->Image1);
+    if (const auto& shortfall = picture.value().shortfall())
+        tellOnceShown(isChart ? Task::ShowChartInPart : Task::ShowAirportPictureInPart, shortfall);
     c->Image1.setSpokenName(isChart ? StripExtension(state_.ChartFile) : state_.CurrentAirport);
     return Loaded::Yes;
 }

@@ -20,6 +20,9 @@ enum class Fault {
     TooShort,      ///< it ends before all its values
     Damaged,       ///< its content is not of its format
     BadName,       ///< a name that is empty, leaves its folder or holds a refused character
+    CutOff,        ///< a picture that is cut off below
+    RowsMissing,   ///< a picture with rows that are not there, among others that are
+    Ambiguous,     ///< a text that would be read back as another one
     NotInCodePage, ///< a text with a character that the single-byte format lacks
     /// Of several files some are new, could not be put back, and stay so. `path` names these, a line each;
     /// `detail` the folders in which their old selves lie, a line each, if they had any.

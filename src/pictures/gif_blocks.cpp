@@ -18,6 +18,7 @@ constexpr std::uint32_t white = 0xFFFFFFFF;
 
 enum Introducer : std::uint8_t { extensionBlock = 0x21, imageBlock = 0x2C, trailer = 0x3B };
 constexpr std::uint8_t graphicControl = 0xF9;
+constexpr std::size_t graphicControlBytes = 4;
 constexpr std::uint8_t hasTable = 0x80; // in the flags of the screen and of a frame
 constexpr std::uint8_t isInterlaced = 0x40;
 
@@ -34,15 +35,11 @@ public:
     [[nodiscard]] bool ranOut() const { return ranOut_; }
     [[nodiscard]] std::size_t left() const { return left_.size(); }
 
-    /// The next `count` bytes, or none when fewer are left.
+    /// The next `count` bytes, or as many as are left.
     std::span<const std::uint8_t> take(std::size_t count) {
-        if (count > left_.size()) {
-            ranOut_ = true;
-            left_ = {};
-            return {};
-        }
-        const auto taken = left_.first(count);
-        left_ = left_.subspan(count);
+        ranOut_ = ranOut_ || count > left_.size();
+        const auto taken = left_.first(std::min(count, left_.size()));
+        left_ = left_.subspan(taken.size());
         return taken;
     }
     std::uint8_t byte() {
@@ -59,46 +56,37 @@ private:
     bool ranOut_ = false;
 };
 
-/// One pass over the blocks of a file. Every step answers with what is wrong, if anything.
+/// One pass over the blocks of a file. A step that can find something wrong answers with that.
 class BlockWalk {
 public:
     explicit BlockWalk(const QByteArray& gif)
         : bytes_({reinterpret_cast<const std::uint8_t*>(gif.constData()),
                   static_cast<std::size_t>(gif.size())}) {}
 
-    [[nodiscard]] std::optional<Fault> toTrailer();
+    [[nodiscard]] std::optional<Fault> toFirstFrame();
     [[nodiscard]] GifFrame takeFrame() { return std::move(frame_); }
 
 private:
     std::optional<Fault> header();
-    std::optional<Fault> extension();
-    std::optional<Fault> image();
-    std::optional<Fault> firstImage();
+    void extension();
+    std::optional<Fault> frame();
     void table(std::uint8_t flags);
     void orderColours();
-    void skipTable(std::uint8_t flags) { bytes_.take(flags & hasTable ? tableBytes(flags) : 0); }
-    static std::size_t tableBytes(std::uint8_t flags) { return std::size_t{6} << (flags & 7); }
-    void skipSubBlocks() {
-        while (const std::uint8_t size = bytes_.byte()) bytes_.take(size);
-    }
     void joinSubBlocks();
 
     Bytes bytes_;
     GifFrame frame_;
-    bool haveFrame_ = false;
 };
 
-std::optional<Fault> BlockWalk::toTrailer() {
+std::optional<Fault> BlockWalk::toFirstFrame() {
     if (const auto fault = header()) return fault;
     while (!bytes_.ranOut()) {
-        std::optional<Fault> fault;
         switch (bytes_.byte()) {
-        case extensionBlock: fault = extension(); break;
-        case imageBlock: fault = haveFrame_ ? image() : firstImage(); break;
-        case trailer: return haveFrame_ ? fault : Fault::Damaged;
-        default: return Fault::Damaged;
+        case extensionBlock: extension(); break;
+        case imageBlock: return frame();
+        case trailer: return Fault::Damaged;
+        default: break; // a stray byte
         }
-        if (fault) return fault;
     }
     return Fault::Damaged;
 }
@@ -122,7 +110,7 @@ std::optional<Fault> BlockWalk::header() {
 void BlockWalk::table(std::uint8_t flags) {
     if (!(flags & hasTable)) return;
     frame_.palette.fill(black);
-    const auto colours = bytes_.take(tableBytes(flags));
+    const auto colours = bytes_.take(std::size_t{6} << (flags & 7));
     for (std::size_t i = 0; i + 2 < colours.size(); i += 3) {
         const auto red = std::uint32_t{colours[i]} << 16;
         const auto green = std::uint32_t{colours[i + 1]} << 8;
@@ -143,27 +131,16 @@ void BlockWalk::orderColours() {
     }
 }
 
-std::optional<Fault> BlockWalk::extension() {
-    if (bytes_.byte() == graphicControl && !haveFrame_) {
-        if (bytes_.byte() != 4) return Fault::Damaged;
-        const bool transparent = bytes_.byte() & 1;
-        bytes_.take(2); // how long the frame stands: only animations ask
-        const std::uint8_t index = bytes_.byte();
-        frame_.transparent = transparent ? std::optional(index) : std::nullopt;
+void BlockWalk::extension() {
+    const bool control = bytes_.byte() == graphicControl;
+    while (const std::uint8_t size = bytes_.byte()) {
+        const auto block = bytes_.take(size); // flags, how long the frame stands (two bytes), index
+        if (control && block.size() == graphicControlBytes)
+            frame_.transparent = block[0] & 1 ? std::optional(block[3]) : std::nullopt;
     }
-    skipSubBlocks();
-    return {};
 }
 
-std::optional<Fault> BlockWalk::image() {
-    bytes_.take(8);
-    skipTable(bytes_.byte());
-    bytes_.byte();
-    skipSubBlocks();
-    return {};
-}
-
-std::optional<Fault> BlockWalk::firstImage() {
+std::optional<Fault> BlockWalk::frame() {
     const int left = bytes_.word();
     const int top = bytes_.word();
     const int width = bytes_.word();
@@ -181,9 +158,8 @@ std::optional<Fault> BlockWalk::firstImage() {
     if (frame_.transparent) frame_.palette[*frame_.transparent] = white;
     orderColours();
     frame_.rootBits = bytes_.byte();
-    if (frame_.rootBits < 2 || frame_.rootBits > 8) return Fault::Damaged;
+    if (frame_.rootBits < 1 || frame_.rootBits > 8) return Fault::Damaged;
     joinSubBlocks();
-    haveFrame_ = true;
     return {};
 }
 
@@ -204,7 +180,7 @@ std::span<const std::uint8_t> GifFrame::codes() const {
 
 Result<GifFrame> readFirstFrame(const QByteArray& gif, const QString& path) {
     BlockWalk walk(gif);
-    if (const auto fault = walk.toTrailer()) return Failure{*fault, path, {}};
+    if (const auto fault = walk.toFirstFrame()) return Failure{*fault, path, {}};
     return walk.takeFrame();
 }
 

@@ -2,10 +2,12 @@
 
 #include "pictures/gif_blocks.h"
 #include "pictures/lzw.h"
+#include "pictures/own_colours.h"
 #include "pictures/pixel_memory.h"
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 #include <utility>
 
 namespace quarvel {
@@ -17,36 +19,22 @@ std::size_t area(QSize size) {
     return static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height());
 }
 
-/// The frame's rows in the order in which they are stored, or null when its codes are broken.
-PixelMemory unpack(const GifFrame& frame) {
+/// The frame's rows in the order in which they are stored, as many of them as its codes give whole.
+struct StoredRows {
+    PixelMemory pixels;
+    int count;
+};
+
+StoredRows unpack(const GifFrame& frame) {
     const std::size_t count = area(frame.place.size());
     PixelMemory pixels = pixelMemory(count + lzwOutputSlack);
-    return unpackLzw(frame.codes(), frame.rootBits, frame.values, pixels.get(), count) ? std::move(pixels)
-                                                                                       : nullptr;
-}
-
-/// How white a colour is, 0 to 765.
-int whiteness(std::uint32_t colour) {
-    return static_cast<int>((colour >> 16 & 255) + (colour >> 8 & 255) + (colour & 255));
-}
-
-/// An index for bare paper. A palette without white gets one at an index that no pixel uses; where all 256
-/// are in use, the lightest colour has to do.
-std::uint8_t paperIndex(GifFrame& frame, const std::uint8_t* pixels) {
-    auto& palette = frame.palette;
-    const auto lightest =
-        std::max_element(palette.begin(), palette.end(),
-                         [](std::uint32_t a, std::uint32_t b) { return whiteness(a) < whiteness(b); });
-    const auto lightestIndex = static_cast<std::uint8_t>(lightest - palette.begin());
-    if (*lightest == white) return lightestIndex;
-    std::array<bool, 256> used{};
-    const std::size_t count = area(frame.place.size());
-    for (std::size_t i = 0; i < count; ++i) used[pixels[i]] = true;
-    const auto unused = std::find(used.begin(), used.end(), false);
-    if (unused == used.end()) return lightestIndex;
-    const auto index = static_cast<std::uint8_t>(unused - used.begin());
-    palette[index] = white;
-    return index;
+    const auto unpackBy = [&](Widening widening) {
+        return unpackLzw(frame.codes(), frame.rootBits, frame.values, pixels.get(), count, widening);
+    };
+    // Only with a code size of 1 does it matter, and what is wrong does not reach the end.
+    std::size_t done = frame.rootBits == 1 ? unpackBy(Widening::WithTheEntry) : 0;
+    if (done < count) done = unpackBy(Widening::AtOnce);
+    return {std::move(pixels), static_cast<int>(done / static_cast<std::size_t>(frame.place.width()))};
 }
 
 /// The rows of a frame, top to bottom, in the order in which the file stores them.
@@ -73,30 +61,52 @@ private:
     int y_ = 0;
 };
 
-/// Copies what of the frame lies on the logical screen to its place. A frame that reaches beyond the screen
-/// is cut off there: the file says how large the picture is, and the frame is only what it shows.
-void place(const GifFrame& frame, const std::uint8_t* stored, std::uint8_t* screen) {
+/// Puts what of the frame lies on the logical screen at its place, and stripes where rows are missing. A
+/// frame that reaches beyond the screen is cut off there: the file says how large the picture is, and the
+/// frame is only what it shows. Gives how many of the picture's rows are missing.
+int place(const GifFrame& frame, const StoredRows& stored, OwnColours& colours, std::uint8_t* screen) {
     const QRect visible = frame.place & QRect(QPoint(0, 0), frame.screen);
-    if (visible.isEmpty()) return;
+    if (visible.isEmpty()) return 0;
     const auto frameWidth = static_cast<std::size_t>(frame.place.width());
     const auto screenWidth = static_cast<std::size_t>(frame.screen.width());
+    std::optional<Stripes> stripes;
+    if (stored.count < frame.place.height()) stripes.emplace(colours, visible.width());
     RowOrder order(frame.place.height(), frame.interlaced);
-    for (int i = 0; i < frame.place.height(); ++i, stored += frameWidth) {
+    int missing = 0;
+    const std::uint8_t* from = stored.pixels.get();
+    for (int i = 0; i < frame.place.height(); ++i, from += frameWidth) {
         const int y = frame.place.y() + order.next();
         if (y > visible.bottom()) continue;
-        std::memcpy(screen + static_cast<std::size_t>(y) * screenWidth + visible.x(), stored,
-                    static_cast<std::size_t>(visible.width()));
+        std::uint8_t* const to = screen + static_cast<std::size_t>(y) * screenWidth + visible.x();
+        const bool isMissing = i >= stored.count;
+        std::memcpy(to, isMissing ? stripes->row(y) : from, static_cast<std::size_t>(visible.width()));
+        missing += isMissing ? 1 : 0;
     }
+    return missing;
 }
 
-PixelMemory compose(GifFrame& frame, PixelMemory stored) {
+MissingRows tellMissing(const GifFrame& frame, int missing) {
+    if (missing == 0) return {};
+    const bool reachesDown = frame.place.bottom() >= frame.screen.height() - 1;
+    const bool below = reachesDown && !frame.interlaced;
+    constexpr int whole = 100;
+    // Rounded up, but never all of it: some of the picture is there.
+    const int percent = (missing * whole + frame.screen.height() - 1) / frame.screen.height();
+    return {below ? MissingRows::Where::Below : MissingRows::Where::Among, std::min(percent, whole - 1)};
+}
+
+GifPicture compose(GifFrame& frame, StoredRows stored) {
     const QRect screen(QPoint(0, 0), frame.screen);
-    if (frame.place == screen && !frame.interlaced) return stored;
+    const bool whole = stored.count == frame.place.height();
+    if (frame.place == screen && !frame.interlaced && whole)
+        return {frame.screen, std::move(stored.pixels), frame.palette, {}};
     const std::size_t count = area(frame.screen);
     PixelMemory composed = pixelMemory(count);
-    if (!frame.place.contains(screen)) std::memset(composed.get(), paperIndex(frame, stored.get()), count);
-    place(frame, stored.get(), composed.get());
-    return composed;
+    const auto rows = static_cast<std::size_t>(stored.count);
+    OwnColours colours(frame.palette, {stored.pixels.get(), rows * std::size_t(frame.place.width())});
+    if (!frame.place.contains(screen)) std::memset(composed.get(), colours.index(white), count);
+    const int missing = place(frame, stored, colours, composed.get());
+    return {frame.screen, std::move(composed), frame.palette, tellMissing(frame, missing)};
 }
 
 } // namespace
@@ -105,10 +115,9 @@ Result<GifPicture> readGif(const QByteArray& gif, const QString& path) {
     auto read = readFirstFrame(gif, path);
     if (!read) return read.failure();
     GifFrame frame = read.take();
-    PixelMemory stored = unpack(frame);
-    if (!stored) return Failure{Fault::Damaged, path, {}};
-    PixelMemory composed = compose(frame, std::move(stored));
-    return GifPicture{frame.screen, std::move(composed), frame.palette};
+    StoredRows stored = unpack(frame);
+    if (stored.count == 0) return Failure{Fault::Damaged, path, {}};
+    return compose(frame, std::move(stored));
 }
 
 } // namespace quarvel

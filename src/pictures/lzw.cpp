@@ -51,8 +51,9 @@ void copyRun(std::uint8_t* to, const std::uint8_t* from, std::size_t length) {
 // for. In the pixels both lie side by side, so no table of strings is kept: the entry made by the n-th code
 // since the last clear code is the run of pixels that begins where that code's pixels begin and ends with the
 // next code's first one.
-bool unpackLzw(std::span<const std::uint8_t> packed, unsigned rootBits,
-               const std::array<std::uint8_t, 256>& values, std::uint8_t* pixels, std::size_t count) {
+std::size_t unpackLzw(std::span<const std::uint8_t> packed, unsigned rootBits,
+                      const std::array<std::uint8_t, 256>& values, std::uint8_t* pixels, std::size_t count,
+                      Widening widening) {
     const unsigned clearCode = 1u << rootBits;
     const unsigned firstEntry = clearCode + 2;
     const unsigned mostEntries = tableSize - firstEntry;
@@ -62,7 +63,7 @@ bool unpackLzw(std::span<const std::uint8_t> packed, unsigned rootBits,
     CodeStream stream(packed);
     std::size_t done = 0;
     while (done < count) {
-        if (!stream.has(width)) return false;
+        if (!stream.has(width)) break;
         const unsigned code = stream.take(width);
         if (code == clearCode) {
             codes = 0;
@@ -74,17 +75,18 @@ bool unpackLzw(std::span<const std::uint8_t> packed, unsigned rootBits,
             pixels[done++] = values[code];
         } else {
             const unsigned entry = code - firstEntry; // the end code wraps round and is no entry either
-            if (entry >= std::min(codes, mostEntries)) return false;
+            if (entry >= std::min(codes, mostEntries)) break;
             const std::size_t length = starts[entry + 1] - starts[entry] + std::size_t{1};
             const std::size_t wanted = std::min(length, count - done);
             copyRun(pixels + done, pixels + starts[entry], wanted);
             done += wanted;
         }
         if (codes > mostEntries) continue;
-        if (firstEntry + codes == 1u << width && width < widestCode) ++width;
+        const bool waits = codes == 0 && widening == Widening::WithTheEntry;
+        if (firstEntry + codes >= 1u << width && width < widestCode && !waits) ++width;
         ++codes;
     }
-    return true;
+    return done;
 }
 
 } // namespace quarvel

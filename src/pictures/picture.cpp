@@ -35,6 +35,12 @@ bool isGreyScale(const std::array<std::uint32_t, 256>& palette) {
     return true;
 }
 
+std::optional<Failure> shortfallOf(const MissingRows& missing, const QString& path) {
+    if (missing.where == MissingRows::Where::Nowhere) return {};
+    const bool below = missing.where == MissingRows::Where::Below;
+    return Failure{below ? Fault::CutOff : Fault::RowsMissing, path, QString::number(missing.percent)};
+}
+
 } // namespace
 
 Result<Picture> Picture::read(const QString& path) {
@@ -55,6 +61,7 @@ Result<Picture> Picture::decode(const QByteArray& gif, const QString& path) {
     picture.size_ = content.size;
     picture.ground_ = commonest(content);
     picture.grey_ = isGreyScale(content.palette);
+    picture.shortfall_ = shortfallOf(content.missing, path);
     picture.pixels_ = std::move(content.pixels);
     picture.palette_ = std::make_shared<const std::array<std::uint32_t, 256>>(content.palette);
     return picture;

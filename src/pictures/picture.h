@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 namespace quarvel {
 
@@ -20,9 +21,11 @@ public:
     /// No picture: size 0 x 0.
     Picture() = default;
 
-    /// Reads the first frame of a GIF file, composed onto its logical screen. Fails with the faults of
-    /// readWholeFile, with Damaged (not a GIF, broken or cut off before its trailer) or with TooLarge (a side
-    /// above 32767 pixels, more than 128 million pixels, or more than there is memory for).
+    /// Reads the first frame of a GIF file, composed onto its logical screen. Rows of it that are cut off or
+    /// broken are marked by grey stripes and told by shortfall(); what the file holds behind it does not
+    /// matter. Fails with the faults of readWholeFile, with Damaged (not a GIF, or not a row of a frame in
+    /// it) or with TooLarge (a side above 32767 pixels, more than 128 million pixels, or more than there is
+    /// memory for).
     [[nodiscard]] static Result<Picture> read(const QString& path);
 
     /// The same from bytes in memory; `path` only names them in a failure.
@@ -30,6 +33,9 @@ public:
 
     [[nodiscard]] bool isNull() const { return size_.isEmpty(); }
     [[nodiscard]] QSize size() const { return size_; } ///< in pixels of the picture
+
+    /// What the file lacks, if anything: CutOff or RowsMissing (detail: how many hundredths).
+    [[nodiscard]] const std::optional<Failure>& shortfall() const { return shortfall_; }
 
     /// width() bytes of palette indices, row 0 on top.
     [[nodiscard]] const std::uint8_t* row(int y) const;
@@ -49,6 +55,7 @@ private:
     QSize size_{0, 0};
     std::uint8_t ground_ = 0;
     bool grey_ = false;
+    std::optional<Failure> shortfall_;
     std::shared_ptr<const std::uint8_t[]> pixels_;
     std::shared_ptr<const std::array<std::uint32_t, 256>> palette_;
 };

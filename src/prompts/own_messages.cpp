@@ -104,6 +104,15 @@ constexpr std::array messages = {
     OwnMessage{u"0200",
                u"Il testo incollato o trascinato è più lungo dello spazio che c'è nella casella: ne è "
                u"entrato solo l'inizio. Il testo intero è ancora là da dove viene."},
+    // A picture with rows missing. %2 is a number.
+    OwnMessage{u"0240", u"La cartina scelta non è intera: ne vedi quello che il file contiene."},
+    OwnMessage{u"0241", u"La foto dell'aeroporto non è intera: ne vedi quello che il file contiene."},
+    OwnMessage{u"0242", u"Manca la parte in basso, il %2 % dell'altezza, segnata a strisce grigie:\n%1\n"
+                        u"Sostituisci il file con una copia intera."},
+    OwnMessage{u"0243", u"Mancano delle righe, il %2 % dell'altezza, segnate a strisce grigie:\n%1\n"
+                        u"Sostituisci il file con una copia intera."},
+    OwnMessage{u"0244", u"I segni «%2», uno accanto all'altro, sarebbero riletti in un altro modo da questo "
+                        u"file:\n%1\nMetti uno spazio fra loro e riprova."},
     // What came of printing.
     OwnMessage{u"0250", u"Il servizio di stampa del sistema non risponde: non è stato stampato nulla e nulla "
                         u"sarà stampato più tardi. Controlla che sia avviato e raggiungibile, poi riprova."},

@@ -28,6 +28,9 @@ QString numberOf(Fault fault) {
     case Fault::ReadFailed: return u"0170"_s;
     case Fault::WriteFailed: return u"0171"_s;
     case Fault::PartlyReplaced: return u"0172"_s;
+    case Fault::Ambiguous: return u"0244"_s;
+    case Fault::CutOff: return u"0242"_s;
+    case Fault::RowsMissing: return u"0243"_s;
     }
     return {};
 }

@@ -32,6 +32,8 @@ enum class Task {
     UseState = 180,             ///< a file of what the program remembers; it was set aside
     KeepState = 181,            ///< the same, to be written
     PasteText = 200,            ///< more was pasted or dropped than the box takes
+    ShowChartInPart = 240,      ///< a chart of which rows are missing
+    ShowAirportPictureInPart = 241,
     AskPrintingService = 250,   ///< a printing service that does not answer; nothing was printed
     ConfirmPrint = 251,         ///< one that fell silent while it took the page
 };

@@ -152,6 +152,8 @@ void frmMain::showAirport(const QString& name, const Before& before) {
     c->imgAeroporto.setPicture(picture.value());
     c->cmdElabora.setUsable(Usable::No);
     c->txtNomeAeroporto.setUsable(Usable::No);
+    if (const auto& shortfall = picture.value().shortfall())
+        prompts_.tell(*this, Task::ShowAirportPictureInPart, *shortfall);
 }
 
 void frmMain::fillFields(const AirportRecord& record) {

@@ -86,6 +86,8 @@ void frmView::List1_Click() {
     state_.ChartFile = chartFileName(chart);
     chosenRow_ = c->List1.selectedRow();
     nameChart();
+    if (const auto& shortfall = picture.value().shortfall())
+        prompts_.tell(*this, Task::ShowChartInPart, *shortfall);
 }
 
 void frmView::keepChosenChart() {

@@ -350,6 +350,21 @@ private Q_SLOTS:
         QVERIFY(QtMessageBoxes().show(window, question, {}) != Answer::Yes);
     }
 
+    void aPictureThatIsCutOffIsShownAndToldInEveryWindow() {
+        const auto test = started();
+        for (const auto& picture : {u"aeroporti/LIRF/Sid/KENN.gif"_s, u"aeroporti/LIRF/Aeroporto/LIRF.gif"_s})
+            test->write(picture, test->read(picture).chopped(20));
+        test->openViewer(u"LIRF"_s);
+        test->openCompanion();
+        QCOMPARE(TestProgram::control(test->companionWindow(), u"Image1"_s)->size(), QSize(30, 40));
+        TestProgram::chooseItem(test->companionWindow(), u"mnuAeroporto"_s);
+        const QStringList tasks = {u"0241"_s, u"0240"_s, u"0240"_s, u"0241"_s};
+        QTRY_COMPARE(test->boxes.shown.size(), tasks.size());
+        for (qsizetype i = 0; i < tasks.size(); ++i)
+            QVERIFY(test->boxes.shown[i].text.startsWith(builtInText(tasks[i]) +
+                                                         u"\n\nManca la parte in basso, il "));
+    }
+
     void whatMemoryDoesNotHoldIsToldAsTooLarge() {
         if (!memoryCanBeLimited) QSKIP("the sanitizer reserves more than any limit");
         const QTemporaryDir folder;

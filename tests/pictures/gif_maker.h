@@ -17,6 +17,7 @@ enum class Packing {
     Clearing, ///< LZW that clears its table once it is full
     Deferred, ///< LZW that goes on with the full table to the end
     Restless, ///< LZW that clears its table, twice, after every seventh code
+    Waiting,  ///< as Clearing, but with a code size of 1 wider codes begin one code later
 };
 
 /// A GIF file to be made: one frame on a logical screen.
@@ -32,8 +33,8 @@ struct GifRecipe {
     bool moreBlocks = false;
     std::optional<std::uint8_t> transparent = {};
     std::vector<std::uint32_t> ownColours = {}; ///< the frame's own table, if any
-    unsigned spareBits = 0;                     ///< by so much the code size is larger than it need be
-    qsizetype blockBytes = 255;                 ///< how large the blocks of codes are, 1 to 255
+    int spareBits = 0;          ///< by so much the code size is larger than it need be; two colours allow -1
+    qsizetype blockBytes = 255; ///< how large the blocks of codes are, 1 to 255
 };
 
 namespace gif_maker {
@@ -86,11 +87,12 @@ inline QByteArray lzw(const std::vector<std::uint8_t>& pixels, unsigned rootBits
         }
         out.put(code, width);
         if (next < 4096) {
-            longer[code][pixel] = static_cast<std::uint16_t>(next);
-            if (next == 1u << width) ++width;
+            const bool waits = packing == Packing::Waiting && next == clear + 2;
+            if (!waits) longer[code][pixel] = static_cast<std::uint16_t>(next);
+            if (next >= 1u << width && !waits) ++width;
             ++next;
         }
-        if (next == 4096 && packing == Packing::Clearing) startAnew();
+        if (next == 4096 && (packing == Packing::Clearing || packing == Packing::Waiting)) startAnew();
         if (packing == Packing::Restless && ++codes % 7 == 0) {
             startAnew();
             startAnew();
@@ -145,7 +147,7 @@ inline void frame(QByteArray& out, const GifRecipe& recipe) {
     out.append(static_cast<char>((recipe.interlaced ? 0x40 : 0) |
                                  (hasTable ? 0x80 | (tableBits(recipe.ownColours) - 1) : 0)));
     if (hasTable) table(out, recipe.ownColours);
-    const auto rootBits = static_cast<unsigned>(std::max(2, tableBits(recipe.colours))) + recipe.spareBits;
+    const auto rootBits = static_cast<unsigned>(std::max(2, tableBits(recipe.colours)) + recipe.spareBits);
     out.append(static_cast<char>(rootBits));
     const auto& rows = recipe.interlaced ? interlacedRows(recipe.pixels, recipe.place.size()) : recipe.pixels;
     subBlocks(out, lzw(rows, rootBits, recipe.packing), recipe.blockBytes);

@@ -40,7 +40,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QByteArray& key = words[1];
     const QByteArray& value = words[2];
 
-    mustHold(scannedValue(file, key).size() <= file.size());
+    mustHold(scannedRest(file, key).size() <= file.size());
     const QByteArray old = profileValue(file, section, key);
     mustHold(old.size() <= file.size());
     if (!isPlain(section) || !isPlain(key) || !isPlain(value)) return 0;

@@ -2,6 +2,7 @@
 
 #include "files/whole_file.h"
 #include "text/code_page.h"
+#include "text/decoding.h"
 
 #include <QByteArrayView>
 #include <algorithm>
@@ -122,27 +123,40 @@ Place findEntry(QByteArrayView profile, QByteArrayView section, QByteArrayView k
     return place;
 }
 
-/// A text as it may stand in a line of a profile; nothing when the code page or the line cannot hold it.
-std::optional<QByteArray> lineText(const QString& text) {
-    const EncodedText encoded = encodeCodePage(text);
+/// A text as it may stand in a line of a profile; nothing when the file's encoding or the line cannot hold
+/// it.
+std::optional<QByteArray> lineText(const QString& text, TextEncoding encoding = TextEncoding::CodePage) {
+    const EncodedText encoded =
+        encoding == TextEncoding::CodePage ? encodeCodePage(text) : EncodedText{text.toUtf8(), {}};
     const auto breaksLine = [](char byte) { return byte == '\r' || byte == '\n' || byte == '\0'; };
     if (!encoded.refused.isEmpty() || std::any_of(encoded.bytes.begin(), encoded.bytes.end(), breaksLine))
         return std::nullopt;
     return encoded.bytes;
 }
 
-/// What is read from a profile, be it small or large.
-QString valueIn(const QByteArray& profile, const QString& section, const QString& key) {
+/// What follows a key in a large file, without the one character after the key and without its own first and
+/// last character.
+QString scannedText(const QString& rest) {
+    constexpr qsizetype dropped = 3;
+    return rest.size() < dropped ? QString() : rest.sliced(2, rest.size() - dropped);
+}
+
+/// What is read from a file's bytes, be they many or few.
+QString valueIn(const QByteArray& file, const QString& section, const QString& key) {
     const std::optional<QByteArray> keyText = lineText(key);
     if (!keyText) return {};
-    if (profile.size() > largestProfileBytes) return decodeCodePage(scannedValue(profile, *keyText));
+    const QByteArray all = utf16AsUtf8(file);
+    const QByteArrayView profile = QByteArrayView(all).sliced(markBytes(all));
+    if (file.size() > largestProfileBytes)
+        return scannedText(decodePart(scannedRest(profile, *keyText), all));
 
     const std::optional<QByteArray> sectionText = lineText(section);
     if (!sectionText) return {};
-    QByteArray value = profileValue(profile, *sectionText, *keyText);
+    QString value = decodePart(profileValue(profile, *sectionText, *keyText), all);
     value.truncate(longestProfileValue);
-    if (const qsizetype end = value.indexOf('\0'); end >= 0) value.truncate(end);
-    return decodeCodePage(value);
+    if (!value.isEmpty() && value.back().isHighSurrogate()) value.chop(1); // half of a character
+    if (const qsizetype end = value.indexOf(QChar::Null); end >= 0) value.truncate(end);
+    return value;
 }
 
 } // namespace
@@ -154,7 +168,7 @@ QByteArray profileValue(QByteArrayView profile, QByteArrayView section, QByteArr
     return value.toByteArray();
 }
 
-QByteArray scannedValue(QByteArrayView file, QByteArrayView key) {
+QByteArrayView scannedRest(QByteArrayView file, QByteArrayView key) {
     if (key.isEmpty()) return {};
     qsizetype from = 0;
     while (from < file.size()) {
@@ -163,11 +177,8 @@ QByteArray scannedValue(QByteArrayView file, QByteArrayView key) {
         if (hit == nullptr) break;
         const qsizetype start = static_cast<const char*>(hit) - file.data();
         const qsizetype next = afterLine(file, start);
-        if (start == 0 || file[start - 1] == '\n') {
-            const QByteArrayView line = withoutLineEnd(file.sliced(start, next - start));
-            const QByteArrayView text = line.sliced(std::min(key.size() + 1, line.size()));
-            return text.size() < 2 ? QByteArray() : text.sliced(1, text.size() - 2).toByteArray();
-        }
+        if (start == 0 || file[start - 1] == '\n')
+            return withoutLineEnd(file.sliced(start, next - start)).sliced(key.size());
         from = next;
     }
     return {};
@@ -194,14 +205,17 @@ Result<QString> ReadIniString(const QString& file, const QString& section, const
 }
 
 bool WriteIniString(const QString& file, const QString& section, const QString& key, const QString& value) {
-    const std::optional<QByteArray> sectionText = lineText(section);
-    const std::optional<QByteArray> keyText = lineText(key);
-    const std::optional<QByteArray> valueText = lineText(value);
-    if (!sectionText || !keyText || !valueText) return false;
     const Result<QByteArray> before = readProfile(file);
     if (!before && before.failure().fault != Fault::NotFound) return false;
-    const QByteArray profile = before ? before.value() : QByteArray();
-    const QByteArray after = profileWithValue(profile, *sectionText, *keyText, *valueText);
+    const QByteArray all = before ? utf16AsUtf8(before.value()) : QByteArray();
+    const TextEncoding encoding = encodingOf(all); // which the new value must share with the other lines
+    const std::optional<QByteArray> sectionText = lineText(section, encoding);
+    const std::optional<QByteArray> keyText = lineText(key, encoding);
+    const std::optional<QByteArray> valueText = lineText(value, encoding);
+    if (!sectionText || !keyText || !valueText) return false;
+    const QByteArray mark = all.first(markBytes(all));
+    const QByteArray after =
+        mark + profileWithValue(QByteArrayView(all).sliced(mark.size()), *sectionText, *keyText, *valueText);
     // Not what would be read back otherwise, or not at all.
     if (after.size() > largestReadBytes || valueIn(after, section, key) != value) return false;
     return writeWholeFile(file, after).ok();

@@ -2,7 +2,7 @@
 
 #include "files/whole_file.h"
 #include "presenter/core/presentation.h"
-#include "text/code_page.h"
+#include "text/decoding.h"
 
 namespace quarvel {
 namespace {
@@ -13,7 +13,7 @@ constexpr qint64 largestTextBytes = qint64{16} * 1024 * 1024;
 
 void AirportPresenter::LoadTextFile(const QString& path, HiddenTextBox& box) {
     if (const Result<QByteArray> file = readWholeFile(path, largestTextBytes))
-        box.setText(decodeCodePage(file.value()));
+        box.setText(decodeText(file.value()));
 }
 
 void AirportPresenter::PresentAirport(const HiddenTextBox& box) {

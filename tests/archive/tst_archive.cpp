@@ -48,6 +48,8 @@ private Q_SLOTS:
             QCOMPARE(bytes, ("\"" + stored + "\"\r\n").repeated(recordSize));
             QVERIFY(parseRecord(bytes, u"x"_s).value() == recordOf(readBack));
         }
+        // It would be read back as another letter.
+        QCOMPARE(recordBytes(recordOf(u"PERCHÈ…"_s), u"x"_s).failure().detail, u"È…"_s);
     }
 
     void readValues() {
@@ -58,7 +60,8 @@ private Q_SLOTS:
             {"\"a\"bc\"d\",e\n\"f\" g\r\nh\n", {u"a"_s, u"e"_s, u"f"_s, u"h"_s}},
             {"\"a,\r\nb\"\r\nc\n", {u"a,\r\nb"_s, u"c"_s}}, // separators inside quotes
             {",\"\"\r\n\r\nd\n", {u""_s, u""_s, u""_s, u"d"_s}},
-            {QByteArray("\"\0\x81\xFF\"\n", 6), {u"\0\u0081ÿ"_s}}};
+            {QByteArray("\"\0\x81\xFF\"\n", 6), {u"\0\u0081ÿ"_s}},
+            {"\xEF\xBB\xBF\"a\"\r\n5\xE2\x80\x9D, \"\xC3\xAC\"\n", {u"a"_s, u"5”"_s, u"ì"_s}}};
         for (const auto& [text, first] : texts) {
             const QByteArray filled = text + QByteArray("\"-\"\n").repeated(recordSize - first.size());
             const Result<AirportRecord> record = parseRecord(filled, u"x"_s);

@@ -44,6 +44,10 @@ private Q_SLOTS:
               {head + "  ;name=a\r\nname=b ; c\r\n", u"b ; c"_s},
               {"[Strings]\nname=a", u"a"_s},
               {head + "name=ab\0cd\r\n"_ba, u"ab"_s},
+              {"\xEF\xBB\xBF[Strings]\r\nname=a\r\n"_ba, u"a"_s}, // a byte order mark
+              {head + "name=\"Cos\xC3\xAC\"\r\n", u"Così"_s},     // UTF-8
+              {head + "name=\xC3\xAC\r\nb=\xEC\r\n", u"Ã¬"_s},    // but not throughout
+              {head + "name=\"" + QByteArray("\xC3\xA8").repeated(600) + "\"\r\n", QString(511, u'è')},
               {head + "name=\"" + QByteArray(600, 'a') + "\"\r\n", QString(511, u'a')}}) {
             put(u"a.lng"_s, bytes);
             QCOMPARE(ReadIniString(path(u"a.lng"_s), u"Strings"_s, u"name"_s).value(), value);
@@ -56,7 +60,9 @@ private Q_SLOTS:
             {"Key2=\"abc\"\r\nKey=\"x\"\r\n", u"\"abc"_s},                  // merely begins with the key
             {"a Key=\"1\" Key=\"2\"\r\nKey=\"3\"\r\n", u"3"_s},             // the key within a line
             {"Key=a\r\nKey=\"b\"\r\n", QString()},
-            {"Key=\"abc\"\nKey=\"x\"\n", u"abc"_s}};
+            {"Key=\"abc\"\nKey=\"x\"\n", u"abc"_s},
+            {"Key=\"\xC3\xA8\"\n", u"è"_s},
+            {"Key=\"\xC3\xA8\"\n\xE8", u"Ã¨"_s}};
         for (const auto& [lines, value] : files) {
             put(u"a.lng"_s, QByteArray(largestProfileBytes, ';') + "\r\n" + lines);
             QCOMPARE(ReadIniString(path(u"a.lng"_s), u"Strings"_s, u"Key"_s).value(), value);
@@ -69,22 +75,28 @@ private Q_SLOTS:
         QCOMPARE(ReadIniString(path(u"a.lng"_s), u"Strings"_s, u"KEY"_s).value(), u"abc"_s);
         put(u"a.lng"_s, head + QByteArray(64001 - head.size(), 'x'));
         QCOMPARE(ReadIniString(path(u"a.lng"_s), u"Strings"_s, u"KEY"_s).value(), QString());
+        put(u"a.lng"_s, "\xEF\xBB\xBFkey=\"abc\"\r\n;" + QByteArray(64000, 'x')); // the mark hides no line
+        QCOMPARE(ReadIniString(path(u"a.lng"_s), u"Strings"_s, u"key"_s).value(), u"abc"_s);
     }
 
     void writingKeepsOtherLinesToTheByte() {
         const QList<std::pair<QByteArray, QByteArray>> files = {
             {"[Language]\r\nCurrentLanguage=\"old\"\r\nb=1\r\n",
-             "[Language]\r\nCurrentLanguage=new\r\nb=1\r\n"},
+             "[Language]\r\nCurrentLanguage=\xC8\r\nb=1\r\n"},
             {QByteArrayLiteral("\xFF\0;\r\n\n[language]\n currentLANGUAGE = old\t\nCurrentLanguage=2"),
-             QByteArrayLiteral("\xFF\0;\r\n\n[language]\n currentLANGUAGE = new\t\nCurrentLanguage=2")},
+             QByteArrayLiteral("\xFF\0;\r\n\n[language]\n currentLANGUAGE = \xC8\t\nCurrentLanguage=2")},
             {"[Language]\na=1\n\n[x]\nCurrentLanguage=2\n", // added behind the section's last entry
-             "[Language]\na=1\nCurrentLanguage=new\r\n\n[x]\nCurrentLanguage=2\n"},
-            {"a=1\n[x]\nb=2", "a=1\n[x]\nb=2\r\n[Language]\r\nCurrentLanguage=new\r\n"}};
+             "[Language]\na=1\nCurrentLanguage=\xC8\r\n\n[x]\nCurrentLanguage=2\n"},
+            {"\xEF\xBB\xBF[Language]\r\n", "\xEF\xBB\xBF[Language]\r\nCurrentLanguage=\xC3\x88\r\n"},
+            // In the encoding of the other lines.
+            {";\xC3\xA8", ";\xC3\xA8\r\n[Language]\r\nCurrentLanguage=\xC3\x88\r\n"},
+            {"\xFF\xFE;\0"_ba, "\xEF\xBB\xBF;\r\n[Language]\r\nCurrentLanguage=\xC3\x88\r\n"},
+            {"a=1\n[x]\nb=2", "a=1\n[x]\nb=2\r\n[Language]\r\nCurrentLanguage=\xC8\r\n"}};
         for (const auto& [before, after] : files) {
             put(u"LangSetting.ini"_s, before);
-            support().writeSettingLanguage(u"new"_s);
+            support().writeSettingLanguage(u"È"_s);
             QCOMPARE(bytesOf(u"LangSetting.ini"_s), after);
-            QCOMPARE(support().settingLanguage().value(), u"new"_s);
+            QCOMPARE(support().settingLanguage().value(), u"È"_s);
         }
     }
 

@@ -42,7 +42,7 @@ private Q_SLOTS:
         TestProgram test;
         test.presents = &presenter;
         test.addAirport(u"LIRF"_s);
-        test.write(u"aeroporti/LIRF/LIRF_Agent.txt"_s, "Roma \xE8 qui\nvicino\r\n\r\nFine\xA0!");
+        test.write(u"aeroporti/LIRF/LIRF_Agent.txt"_s, "Roma \xC3\xA8 qui\nvicino\r\n\r\nFine\xC2\xA0!");
         test.start();
         QCOMPARE(voices, 0); // nothing is set up before the first presentation
         openAnd(test, u"LIRF"_s);

@@ -1,4 +1,5 @@
 #include "text/code_page.h"
+#include "text/decoding.h"
 #include "text/rounding.h"
 
 #include <QTest>
@@ -25,6 +26,24 @@ private Q_SLOTS:
         QCOMPARE(encodeCodePage(u"\u0080"_s).refused, u"\u0080"_s);   // the euro has its byte
         QCOMPARE(encodeCodePage(u"aŁb→"_s).refused, u"Ł"_s);
         QCOMPARE(encodeCodePage(u"x😀"_s).refused, u"😀"_s);
+    }
+
+    void textsAreReadInTheirEncoding() {
+        for (const auto& [file, text] : {std::pair("Cos\xEC \xE8 Roma"_ba, u"Così è Roma"_s),
+                                         {"Cos\xC3\xAC \xC3\xA8 Roma"_ba, u"Così è Roma"_s},
+                                         {"\xEF\xBB\xBFRoma"_ba, u"Roma"_s},
+                                         {"\xC3\xA8 \xE8"_ba, u"Ã¨ è"_s}, // not throughout
+                                         {"\xFF\xFE"
+                                          "R\0\xEC\0"_ba,
+                                          u"Rì"_s},
+                                         {"\xFE\xFF\0R\0\xEC"_ba, u"Rì"_s},
+                                         {"\xFF\xFE"
+                                          "R"_ba,
+                                          u"ÿþR"_s}, // half a character
+                                         {"\xFF\xFE\0\xD8"_ba, u"ÿþ\0Ø"_s}})
+            QCOMPARE(decodeText(file), text);
+        QCOMPARE(readOtherwise("PERCH\xC8\x85 NO"), u"È…"_s);
+        QCOMPARE(readOtherwise("PERCH\xC8\x85 S\xCC"), QString());
     }
 
     void halvesRoundToEven() {

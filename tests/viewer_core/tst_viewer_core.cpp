@@ -47,6 +47,7 @@ private Q_SLOTS:
                                                              {"  \" A \"\r\n", u" A "_s},
                                                              {" A \"B,C\r\n", u"A \"B"_s},
                                                              {"A B\r\nC", u"A B"_s},
+                                                             {"\xEF\xBB\xBF\"\xC3\xA8\"\r\n", u"è"_s},
                                                              {"\r\n", QString()}};
         for (const auto& [bytes, note] : files) QCOMPARE(parseNote(bytes, u"note.txt"_s).value(), note);
     }
@@ -55,6 +56,7 @@ private Q_SLOTS:
         const auto written = [](const QString& text) { return noteBytes(text, u"note.txt"_s).value(); };
         QCOMPARE(written(u"A\nB\rC\r\nD\n"_s), "\"A\r\nB\r\nC\r\nD\r\n\"\r\n"_ba);
         QCOMPARE(written(u"\"A\""_s), "\"\x94"_ba + "A\x94\"\r\n"_ba);
+        QVERIFY(noteBytes(u"PERCHÈ…"_s, {}).failure().fault == Fault::Ambiguous);
         // A box that is not given leaves its file alone; an arrival has none.
         const QTemporaryDir dir;
         for (const Family family : {Family::Approach, Family::Star})

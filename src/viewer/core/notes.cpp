@@ -3,6 +3,7 @@
 #include "files/lookup.h"
 #include "files/whole_file.h"
 #include "text/code_page.h"
+#include "text/decoding.h"
 
 #include <QDir>
 #include <algorithm>
@@ -50,15 +51,16 @@ QString noteFileName(const NoteKind& kind, const QString& chartName) {
 }
 
 Result<QString> parseNote(const QByteArray& bytes, const QString& path) {
-    const auto start = std::find_if(bytes.cbegin(), bytes.cend(), [](char byte) { return byte != ' '; });
-    if (start == bytes.cend()) return Failure{Fault::TooShort, path, {}};
-    if (*start == '"') {
-        const auto end = std::find(start + 1, bytes.cend(), '"');
-        return withLineFeeds(decodeCodePage(QByteArrayView(start + 1, end)));
+    const QString file = decodeText(bytes);
+    const auto start = std::find_if(file.cbegin(), file.cend(), [](QChar letter) { return letter != u' '; });
+    if (start == file.cend()) return Failure{Fault::TooShort, path, {}};
+    if (*start == u'"') {
+        const auto end = std::find(start + 1, file.cend(), u'"');
+        return withLineFeeds(QString(start + 1, end - start - 1));
     }
-    constexpr std::array fieldEnds = {',', '\r', '\n'};
-    const auto end = std::find_first_of(start, bytes.cend(), fieldEnds.begin(), fieldEnds.end());
-    return decodeCodePage(QByteArrayView(start, end));
+    constexpr std::array fieldEnds = {u',', u'\r', u'\n'};
+    const auto end = std::find_first_of(start, file.cend(), fieldEnds.begin(), fieldEnds.end());
+    return QString(start, end - start);
 }
 
 Result<QByteArray> noteBytes(const QString& text, const QString& path) {
@@ -69,6 +71,8 @@ Result<QByteArray> noteBytes(const QString& text, const QString& path) {
     field.replace(u'"', u'\u201D');
     const EncodedText encoded = encodeCodePage(field);
     if (!encoded.refused.isEmpty()) return Failure{Fault::NotInCodePage, path, encoded.refused};
+    if (const QString pair = readOtherwise(encoded.bytes); !pair.isEmpty())
+        return Failure{Fault::Ambiguous, path, pair};
     QByteArray bytes = '"' + encoded.bytes + "\"\r\n";
     if (bytes.size() > largestNoteBytes) return Failure{Fault::TooLarge, path, {}};
     return bytes;

@@ -30,12 +30,14 @@ struct NoteKind {
 /// not larger, and neither is what is written.
 inline constexpr qint64 largestNoteBytes = qint64{1024} * 1024;
 
-/// The first field of a notes file: leading blanks skipped; quoted, up to the next quote or the end of the
-/// file; not quoted, up to the first comma or line end. Fails with TooShort when the file has no field.
+/// The first field of a notes file, whose text is that of decodeText: leading blanks skipped; quoted, up to
+/// the next quote or the end of the file; not quoted, up to the first comma or line end. Fails with TooShort
+/// when the file has no field.
 [[nodiscard]] Result<QString> parseNote(const QByteArray& bytes, const QString& path);
 
 /// The bytes of a notes file: the text in double quotes, CR LF. Line breaks inside the text become CR LF, a
-/// double quote the closing typographic quote. Fails with NotInCodePage (detail: the character) and TooLarge.
+/// double quote the closing typographic quote. Fails with NotInCodePage (detail: the character), Ambiguous
+/// (detail: the characters that would be read back as one of UTF-8) and TooLarge.
 [[nodiscard]] Result<QByteArray> noteBytes(const QString& text, const QString& path);
 
 /// A chart's note, or an empty text when the folder lists no file of exactly that name. Fails with the faults

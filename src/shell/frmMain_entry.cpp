@@ -1,4 +1,5 @@
 #include "archive/entry_rules.h"
+#include "archive/record_file.h"
 #include "archive/saving.h"
 #include "shell/frmMain.h"
 #include "text/key_filter.h"
@@ -84,7 +85,7 @@ void frmMain::cmdSave_Click() {
         backToEditing();
         return;
     }
-    state_.CurrentIcao = record.values[IcaoCode];
+    state_.CurrentIcao = storableValue(record.values[IcaoCode]);
     prompts_.tellOf(*this, saved.value());
     if (c != nullptr) endAfterSaving();
 }

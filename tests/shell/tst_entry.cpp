@@ -75,18 +75,19 @@ private Q_SLOTS:
 
     void aSavedAirportIsFoundAtTheNextStart() {
         NewAirport test;
-        test.enter(IcaoCode, u"lirfx"_s); // four letters can be typed
+        test.enter(IcaoCode, u"li\"rx"_s); // four letters can be typed
         test.enter(Latitude, u"n45,30"_s);
         test.click(u"cmdSave"_s);
         QCOMPARE(test.boxes.shown.size(), 2); // the question, and that it is done
         QVERIFY(test.end.ended);
-        QCOMPARE(test.program().state().CurrentIcao, u"LIRF"_s);
-        test.addChart(u"aeroporti/NEW/Aeroporto/LIRF.gif"_s, {10, 10});
+        QCOMPARE(test.program().state().CurrentIcao, u"LI”R"_s); // as the record holds it
+        test.addChart(u"aeroporti/NEW/Aeroporto/LI”R.gif"_s, {10, 10});
         test.start();
         test.type(u"ne"_s);
         QCOMPARE(test.rows(u"lstWords"_s), QStringList(u"[NEW]"_s));
         test.clickRow(u"lstWords"_s, 0);
         QCOMPARE(test.field(Latitude)->text(), u"N45,30"_s);
+        QVERIFY(QFile::exists(test.presenter.loaded.last())); // the text that the save made
     }
 
     void aFailedSaveCanBeTriedAgain() {

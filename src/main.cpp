@@ -5,6 +5,7 @@
 #include "platform/beside.h"
 #include "platform/desktop_notification_area.h"
 #include "platform/fitted_application.h"
+#include "platform/painting_thread.h"
 #include "platform/services.h"
 #include "platform/window_system.h"
 #include "presenter/airport_presenter.h"
@@ -12,6 +13,7 @@
 #include "shell/program.h"
 
 #include <QApplication>
+#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +25,10 @@ int main(int argc, char** argv) {
     quarvel::FittedApplication application(argc, argv);
     fontList.finish();
     application.fit(quarvel::Program::largestWindow());
+    if (!quarvel::keepPaintingThread()) {
+        qCritical("Quarvel: there is not enough memory to start.");
+        return EXIT_FAILURE;
+    }
     const quarvel::Beside faces(quarvel::findFaces);
     QApplication::setApplicationName(u"Quarvel"_s);
     QApplication::setDesktopFileName(u"quarvel"_s);

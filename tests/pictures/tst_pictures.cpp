@@ -1,15 +1,21 @@
 #include "pictures/painter.h"
 #include "pictures/picture.h"
+#include "platform/painting_thread.h"
 #include "samples.h"
 
+#include <QFile>
 #include <QImage>
+#include <QPainter>
 #include <QRandomGenerator>
 #include <QTest>
 #include <algorithm>
 #include <cmath>
+#include <sys/resource.h>
 #include <tuple>
+#include <unistd.h>
 
 using namespace quarvel;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -78,6 +84,29 @@ private Q_SLOTS:
         paintsPartsAsCropsOfTheWhole(decoded(made));
         made.colours = greys(30);
         paintsPartsAsCropsOfTheWhole(decoded(made));
+    }
+
+    void paintingEndsWhereNoThreadCanBeStarted() {
+#if defined(__SANITIZE_ADDRESS__)
+        QSKIP("the sanitizer reserves more than any limit");
+#endif
+        QVERIFY(keepPaintingThread());
+        QImage source(500, 500, QImage::Format_RGB32);
+        source.fill(Qt::blue);
+        QImage target(700, 700, QImage::Format_RGB32);
+        QFile statm(u"/proc/self/statm"_s);
+        QVERIFY(statm.open(QIODevice::ReadOnly));
+        const rlim_t taken = statm.readAll().split(' ').first().toULong() * 4096;
+        const rlimit limit{taken + (4 << 20), RLIM_INFINITY}; // less than the stack of a usual thread
+        QCOMPARE(::setrlimit(RLIMIT_AS, &limit), 0);
+        ::alarm(20); // what waits for ever is ended
+        QPainter painter(&target);
+        painter.rotate(3);
+        painter.drawImage(QRectF(50, 10, 611.5, 611.5), source);
+        ::alarm(0);
+        const rlimit none{RLIM_INFINITY, RLIM_INFINITY};
+        ::setrlimit(RLIMIT_AS, &none);
+        QCOMPARE(target.pixel(300, 300), source.pixel(200, 200));
     }
 
 private:

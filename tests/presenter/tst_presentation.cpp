@@ -49,6 +49,7 @@ class PresentationTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void aFloodOfLinesIsCutShort() { QCOMPARE(spokenPieces(u"a\r\n"_s.repeated(30'000)).size(), mostPieces); }
     void requestsOfAPresentation() {
         const QStringList decline = {u"Decline"_s,
                                      u"speech of Mi spiace il fail è vuoto.       Se vuoi puoi inserire "

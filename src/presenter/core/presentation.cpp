@@ -24,7 +24,18 @@ void readAloud(AgentCharacter& character, const QString& text) {
 
 } // namespace
 
-QStringList spokenPieces(const QString& text) { return text.split(u"\r\n"_s); }
+QStringList spokenPieces(const QString& text) {
+    const auto separator = u"\r\n"_s;
+    QStringList pieces;
+    qsizetype from = 0;
+    while (pieces.size() < mostPieces) {
+        const qsizetype end = text.indexOf(separator, from);
+        pieces.append(text.sliced(from, (end < 0 ? text.size() : end) - from));
+        if (end < 0) break;
+        from = end + separator.size();
+    }
+    return pieces;
+}
 
 void presentText(AgentControl& Agent, AgentCharacter*& Genie, const QString& text) {
     const QString id = QString::fromUtf16(characterId);

@@ -7,8 +7,11 @@
 
 namespace quarvel {
 
+/// As many pieces as a character is asked to speak, some hours of reading: each is a request that waits.
+inline constexpr qsizetype mostPieces = 20'000;
+
 /// The pieces of a text that are spoken one after the other: it is split at every carriage return plus line
-/// feed, and empty pieces count.
+/// feed, and empty pieces count. What comes behind the first mostPieces is left out.
 [[nodiscard]] QStringList spokenPieces(const QString& text);
 
 /// Asks for one presentation of a text: the character appears, greets, reads the text piece by piece, or says

@@ -6,6 +6,7 @@
 #include "files/system_error.h"
 #include "files/whole_copy.h"
 
+#include <QDir>
 #include <QFile>
 #include <cerrno>
 #include <sys/stat.h>
@@ -35,7 +36,8 @@ void removeFolder(const QString& path) { ::rmdir(QFile::encodeName(path).constDa
 } // namespace
 
 Result<AirportFolders> createAirportFolders(const ArchivePaths& paths, const QString& name) {
-    if (Result<void> checked = checkAirportName(name, NameUse::New); !checked) return checked.failure();
+    if (const Result<void> usable = checkAirportName(name, NameUse::Existing); !usable)
+        return usable.failure();
     const QString archive = paths.archiveFolder();
     const Result<bool> hasArchive = isFolder(archive);
     if (!hasArchive) return hasArchive.failure();
@@ -46,6 +48,7 @@ Result<AirportFolders> createAirportFolders(const ArchivePaths& paths, const QSt
     const Result<bool> there = isThere(airport);
     if (!there) return there.failure();
     if (there.value()) return AirportFolders::WereThere;
+    if (const Result<void> usable = checkAirportName(name, NameUse::New); !usable) return usable.failure();
 
     // Made aside and moved to their place in one step: an airport without all of its folders could not be
     // saved.

@@ -13,7 +13,8 @@ enum class NameUse {
 
 /// Whether a text can name an airport's folder: not empty, not "." or "..", no separator, control character
 /// or one of * ? " < > | : in it. A new name may not end in a dot or a blank either, which other file systems
-/// drop. Fails with BadName; the failure's detail is the offending character, if it is one.
+/// drop, nor begin with a dot: it would never be listed. Fails with BadName; the failure's detail is the
+/// offending character, if it is one.
 [[nodiscard]] Result<void> checkAirportName(const QString& name, NameUse use);
 
 /// Whether a text can be part of a file name inside a folder (an ICAO code in a picture's name).

@@ -10,7 +10,8 @@
 namespace quarvel {
 
 Result<Written> saveAirport(const ArchivePaths& paths, const QString& name, const AirportRecord& record) {
-    if (const Result<void> allowed = checkAirportName(name, NameUse::New); !allowed) return allowed.failure();
+    if (const Result<void> allowed = checkAirportName(name, NameUse::Existing); !allowed)
+        return allowed.failure();
     // As the record will give it back: by that the text is looked for.
     const QString icao = storableValue(record.values[IcaoCode]);
     if (!staysInFolder(icao)) return Failure{Fault::BadName, icao, {}};

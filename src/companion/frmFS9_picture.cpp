@@ -2,7 +2,6 @@
 #include "files/lookup.h"
 #include "text/strings.h"
 
-#include <QTimer>
 #include <utility>
 
 namespace quarvel {
@@ -35,7 +34,7 @@ frmFS9::Loaded frmFS9::LoadCompanionPicture() {
 
 void frmFS9::tellOnceShown(Task task, const std::optional<Failure>& failure) {
     // Every loading ends with the window on the screen, but not before its handler has ended.
-    QTimer::singleShot(0, window(), [this, task, failure] {
+    queueMessage([this, task, failure] {
         if (failure)
             prompts_.tell(*this, task, *failure);
         else

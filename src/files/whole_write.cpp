@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <map>
 #include <memory>
+#include <ranges>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;

@@ -1,5 +1,6 @@
 #include "forms/button.h"
 
+#include "forms/command.h"
 #include "forms/compiled_pictures.h"
 
 #include <QGuiApplication>
@@ -8,6 +9,7 @@
 #include <QPalette>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcutEvent>
 #include <QSignalBlocker>
 #include <algorithm>
 
@@ -50,9 +52,12 @@ protected:
     }
 
     bool event(QEvent* event) override {
-        // A mnemonic is a way to the button: the field that is left must know before the button acts.
-        if (event->type() == QEvent::Shortcut) setFocus(Qt::ShortcutFocusReason);
-        return QPushButton::event(event);
+        if (event->type() != QEvent::Shortcut) return QPushButton::event(event);
+        // A mnemonic is a way to the button: the field that is left must know before the button acts. It acts
+        // at once; the toolkit would have it stay down for a while, and much can come in between.
+        setFocus(Qt::ShortcutFocusReason);
+        if (!static_cast<QShortcutEvent*>(event)->isAmbiguous()) click();
+        return true;
     }
 
     void keyPressEvent(QKeyEvent* event) override {
@@ -93,7 +98,7 @@ Button::Button(Container& container, const ControlSpec& spec)
     palette.setColor(QPalette::Disabled, QPalette::ButtonText,
                      QGuiApplication::palette().color(QPalette::Disabled, QPalette::ButtonText));
     graphic.setPalette(palette);
-    QObject::connect(&graphic, &QAbstractButton::clicked, &graphic, [this] { clicked.raise(); });
+    QObject::connect(&graphic, &QAbstractButton::clicked, &graphic, [this] { command(widget(), clicked); });
     Button::setCaption(QString::fromUtf16(spec.caption));
 }
 
@@ -109,7 +114,7 @@ Setting Button::setCaption(const QString& text) {
 OptionButton::OptionButton(Container& container, const ControlSpec& spec)
     : WidgetControl(container, spec, new QRadioButton) {
     QObject::connect(&button(), &QAbstractButton::toggled, &button(), [this](bool on) {
-        if (on) chosen.raise();
+        if (on) command(widget(), chosen);
     });
     OptionButton::setCaption(QString::fromUtf16(spec.caption));
 }

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QScreen>
+#include <utility>
 
 namespace quarvel {
 
@@ -131,6 +132,10 @@ double Form::screenHeight() const {
 
 void Form::setOuterMeasure(Measure which, double twips) {
     if (widget_) widget_->setOuterMeasure(which, twips);
+}
+
+void Form::queueMessage(std::function<void()> show) {
+    if (widget_) widget_->queueMessage(std::move(show));
 }
 
 bool Form::hasOwnBox() const { return widget_ && widget_->hasOwnBox(); }

@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QPointer>
 #include <QRect>
+#include <functional>
 #include <memory>
 
 namespace quarvel {
@@ -87,6 +88,11 @@ public:
     /// Whether the window shows a box of its own.
     [[nodiscard]] bool hasOwnBox() const;
 
+    /// Shows a message once what is going on has ended: a box in the middle of a change of focus would leave
+    /// the button that was just pressed hanging. `show` shows it and does what follows from it; until it
+    /// returns, no command begins in the window. It is not called when the window goes before.
+    void queueMessage(std::function<void()> show);
+
     /// While it lives the window shows a box of its own: coming back from that is no activation.
     class OwnBox {
     public:
@@ -116,8 +122,8 @@ protected:
     /// scale unit from the inside's top left corner.
     virtual void Form_MouseMove(int /*button*/, int /*shift*/, float /*x*/, float /*y*/) {}
 
-    /// A key that the focused control has no use for. What is pressed in a text box never comes here, be the
-    /// box locked.
+    /// A key that the focused control has no use for. Of what is pressed in a text box, be the box locked,
+    /// only Escape comes here.
     virtual void Form_KeyDown(KeyDown& /*key*/) {}
 
     /// Puts the window, frame included, in the middle of a screen (logical pixels).

@@ -1,6 +1,8 @@
 #include "forms/form_widget.h"
 
+#include "forms/command.h"
 #include "forms/focus_ring.h"
+#include "forms/held_keys.h"
 #include "forms/look.h"
 
 #include <QCloseEvent>
@@ -12,6 +14,7 @@
 #include <QMouseEvent>
 #include <QPalette>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
@@ -74,6 +77,7 @@ FormWidget::FormWidget(Form& form, const FormDesign& design)
         marksItsFocus(*menuBar_);
     }
     new FocusRing(*this); // the window's own, as any child
+    HeldKeys::watched();
     // Another program in between makes the next activation one from outside, whatever went before it.
     connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
         if (state != Qt::ApplicationActive && ownBoxes_ == 0) leftForOwnBox_ = false;
@@ -87,6 +91,14 @@ FormWidget::~FormWidget() {
 }
 
 void FormWidget::detach() { form_ = nullptr; }
+
+void FormWidget::queueMessage(std::function<void()> show) {
+    ++dueMessages_;
+    QTimer::singleShot(0, this, [window = QPointer(this), show = std::move(show)] {
+        show();
+        if (window != nullptr) --window->dueMessages_;
+    });
+}
 
 void FormWidget::endOwnBox() {
     --ownBoxes_;
@@ -112,7 +124,9 @@ void FormWidget::activated() {
 
 void FormWidget::closeEvent(QCloseEvent* event) {
     const UnloadReason reason = event->spontaneous() ? UnloadReason::ControlMenu : UnloadReason::Code;
-    if (form_ != nullptr && !form_->requestUnload(reason)) event->ignore();
+    const bool command = reason == UnloadReason::ControlMenu;
+    if (form_ != nullptr && ((command && !beginsCommand(*this)) || !form_->requestUnload(reason)))
+        event->ignore();
 }
 
 void FormWidget::moveEvent(QMoveEvent* event) {
@@ -221,8 +235,12 @@ void FormWidget::keyPressEvent(QKeyEvent* event) {
     const QWidget* const focus = focusWidget();
     const bool typing = qobject_cast<const QPlainTextEdit*>(focus) || qobject_cast<const QLineEdit*>(focus);
     KeyDown key{event->key(), event->modifiers(), focus == this ? nullptr : focus};
-    if (form_ != nullptr && !typing) form_->Form_KeyDown(key);
-    if (!key.used) QWidget::keyPressEvent(event);
+    const bool forWindow = key.key == Qt::Key_Escape ? !event->isAutoRepeat() : !typing;
+    if (form_ != nullptr && forWindow && !hasMessage()) form_->Form_KeyDown(key);
+    if (key.used)
+        HeldKeys::watched().commandBegins();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void FormWidget::centreOuterFrame() {

@@ -5,6 +5,7 @@
 #include "forms/form.h"
 
 #include <QWidget>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -41,6 +42,10 @@ public:
     /// Shows the window in the state that it has been given while it was hidden.
     void bringBack();
     void setOuterMeasure(Measure which, double twips);
+    /// Calls `show` once what is going on has ended. From now until it returns the window has a message.
+    void queueMessage(std::function<void()> show);
+    /// Whether a message of the window is due or open.
+    [[nodiscard]] bool hasMessage() const { return dueMessages_ > 0 || ownBoxes_ > 0; }
     void beginOwnBox() { ++ownBoxes_; }
     [[nodiscard]] bool hasOwnBox() const { return ownBoxes_ > 0; }
     void endOwnBox();
@@ -65,6 +70,7 @@ private:
     QMenuBar* menuBar_ = nullptr;
     std::shared_ptr<void> kept_;
     int ownBoxes_ = 0;
+    int dueMessages_ = 0;
     bool leftForOwnBox_ =
         false; ///< the window became inactive because of its own box and has not come back yet
     // The toolkit's own account of a hidden window's state follows the window manager's, which forgets it.

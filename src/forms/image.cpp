@@ -1,6 +1,7 @@
 #include "forms/image.h"
 
 #include "forms/accessible_role.h"
+#include "forms/command.h"
 #include "forms/compiled_pictures.h"
 #include "forms/press_key.h"
 #include "pictures/painter.h"
@@ -45,7 +46,7 @@ public:
         return focusPolicy() == Qt::NoFocus ? QAccessible::Graphic : QAccessible::Button;
     }
     [[nodiscard]] bool isPressable() const override { return focusPolicy() != Qt::NoFocus && isEnabled(); }
-    void press() override { owner->clicked.raise(); }
+    void press() override { command(*this, owner->clicked); }
 
 protected:
     void paintEvent(QPaintEvent* event) override {
@@ -60,14 +61,13 @@ protected:
     }
 
     void mousePressEvent(QMouseEvent* event) override {
-        owner->mouseDown.raise(buttonCode(event->button()), static_cast<float>(event->position().x()),
-                               static_cast<float>(event->position().y()));
+        command(*this, owner->mouseDown, buttonCode(event->button()),
+                static_cast<float>(event->position().x()), static_cast<float>(event->position().y()));
         leaveToBox(*event);
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override {
-        if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
-            owner->clicked.raise();
+        if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) press();
         leaveToBox(*event);
     }
 

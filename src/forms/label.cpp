@@ -1,6 +1,7 @@
 #include "forms/label.h"
 
 #include "forms/accessible_role.h"
+#include "forms/command.h"
 #include "forms/press_key.h"
 
 #include <QKeyEvent>
@@ -24,7 +25,7 @@ protected:
     }
     void mouseReleaseEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
-            owner->clicked.raise();
+            command(*this, owner->clicked);
     }
 };
 
@@ -34,7 +35,7 @@ class LinkLabel : public MouseLabel, public WithAccessibleRole {
 public:
     [[nodiscard]] QAccessible::Role accessibleRole() const override { return QAccessible::Link; }
     [[nodiscard]] bool isPressable() const override { return isEnabled(); }
-    void press() override { owner->clicked.raise(); }
+    void press() override { command(*this, owner->clicked); }
 
 protected:
     /// For a label that takes the focus the toolkit lays out a document; no link is focused before it is

@@ -1,5 +1,6 @@
 #include "forms/list_box.h"
 
+#include "forms/command.h"
 #include "forms/press_key.h"
 
 #include <QAbstractListModel>
@@ -56,7 +57,8 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override {
         if (event->button() != Qt::LeftButton) return;
         QListView::mouseReleaseEvent(event);
-        if (std::exchange(pressedOnRow_, false) && selectionModel()->hasSelection()) owner->clicked.raise();
+        if (std::exchange(pressedOnRow_, false) && selectionModel()->hasSelection())
+            command(*this, owner->clicked);
     }
     void focusInEvent(QFocusEvent* event) override {
         // Whoever comes by keyboard finds a row to begin with.
@@ -72,7 +74,9 @@ protected:
             owner->lostFocus.raise();
     }
     void keyPressEvent(QKeyEvent* event) override {
-        if (!event->text().isEmpty() && leftToWindow.contains(event->text())) {
+        // The toolkit would look for a row that begins with the sign of Escape.
+        const bool left = !event->text().isEmpty() && leftToWindow.contains(event->text());
+        if (left || event->key() == Qt::Key_Escape) {
             event->ignore();
             return;
         }
@@ -85,7 +89,7 @@ protected:
             return;
         }
         selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
-        owner->clicked.raise();
+        command(*this, owner->clicked);
     }
 
 private:

@@ -24,6 +24,7 @@ public:
 
     /// What the list says while it has no rows; an empty text says nothing.
     void setHint(const QString& text);
+    [[nodiscard]] bool hasHint() const { return !hintText_.isEmpty(); }
 
     [[nodiscard]] int count() const;
     [[nodiscard]] QString item(int row) const;

@@ -1,5 +1,7 @@
 #include "forms/menu.h"
 
+#include "forms/command.h"
+
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
@@ -12,7 +14,8 @@ MenuItem::MenuItem(Container& container, const ControlSpec& spec, QMenu* menu)
     MenuItem::setCaption(QString::fromUtf16(spec.caption));
     action_->setVisible(spec.shown == Shown::Yes);
     action_->setEnabled(spec.usable == Usable::Yes);
-    QObject::connect(action_, &QAction::triggered, action_, [this] { clicked.raise(); });
+    QObject::connect(action_, &QAction::triggered, action_,
+                     [this, in = &container.inside()] { command(*in, clicked); });
     if (menu != nullptr) menu->addAction(action_);
     container.controlList().push_back(this);
 }

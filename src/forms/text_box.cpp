@@ -1,5 +1,7 @@
 #include "forms/text_box.h"
 
+#include "forms/accessible_entry.h"
+#include "forms/command.h"
 #include "forms/typing.h"
 
 #include <QDropEvent>
@@ -62,6 +64,7 @@ public:
     /// Takes on its font when it is about to be seen: most boxes wait in hidden frames, and each size is
     /// loaded.
     LineEdit(TextBoxEvents& events, const QFont& font) : font_(font), events_(events) {
+        tellLockedEntriesTruly();
         setValidator(&limit);
         setMaxLength(std::numeric_limits<int>::max()); // the box's own limit would cut what is stored
         limit.cut = [this] {
@@ -80,6 +83,8 @@ protected:
         const QScopedValueRollback typing(typing_, !event->matches(QKeySequence::Paste));
         QLineEdit::keyPressEvent(&filtered);
         event->setAccepted(filtered.isAccepted());
+        const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (enters && !event->isAutoRepeat() && events_.entered.isWired()) command(*this, events_.entered);
     }
     void inputMethodEvent(QInputMethodEvent* event) override {
         // Dead keys, compose sequences and on-screen keyboards type this way.
@@ -157,7 +162,11 @@ void TextBox::setLongestTyped(int characters) {
     static_cast<LineEdit&>(edit()).limit.setLimit(characters, edit().text());
 }
 
-void TextBox::setEditing(Editing editing) { edit().setReadOnly(editing == Editing::Locked); }
+void TextBox::setEditing(Editing editing) {
+    const QCursor pointer = edit().cursor();
+    edit().setReadOnly(editing == Editing::Locked);
+    edit().setCursor(pointer); // the toolkit has one of its own for either
+}
 
 bool TextBox::isLocked() const { return edit().isReadOnly(); }
 

@@ -27,13 +27,19 @@ QString filteredKeys(const TextBoxEvents& events, const QString& typed) {
 
 QKeyEvent filteredKeyPress(const TextBoxEvents& events, const QKeyEvent& event) {
     const bool printable = !event.text().isEmpty() && event.text().front().isPrint();
+    // A letter with Alt calls for a button, also where none answers. On some systems AltGr is Control and
+    // Alt.
+    const bool calls =
+        event.modifiers().testFlag(Qt::AltModifier) && !event.modifiers().testFlag(Qt::ControlModifier);
     return {event.type(),
             event.key(),
             event.modifiers(),
             event.nativeScanCode(),
             event.nativeVirtualKey(),
             event.nativeModifiers(),
-            printable ? filteredKeys(events, event.text()) : event.text(),
+            !printable ? event.text()
+            : calls    ? QString()
+                       : filteredKeys(events, event.text()),
             event.isAutoRepeat(),
             static_cast<quint16>(event.count()),
             event.device()};

@@ -61,9 +61,10 @@ Result<QString> modLanguageSupport::settingLanguage() const {
         [](const QString& file) { return ReadIniString(file, u"Language"_s, u"CurrentLanguage"_s); });
 }
 
-void modLanguageSupport::writeSettingLanguage(const QString& language) const {
-    if (const Result<QString> file = settingFile())
-        WriteIniString(file.value(), u"Language"_s, u"CurrentLanguage"_s, language);
+Result<Written> modLanguageSupport::writeSettingLanguage(const QString& language) const {
+    return settingFile().then([&](const QString& file) {
+        return WriteIniString(file, u"Language"_s, u"CurrentLanguage"_s, language);
+    });
 }
 
 /// The current language's file; NotFound when there can be none.

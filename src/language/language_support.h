@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/result.h"
+#include "files/whole_file.h"
 #include "forms/core/control.h"
 
 #include <QString>
@@ -38,8 +38,8 @@ public:
     /// or cannot be read.
     [[nodiscard]] Result<QString> settingLanguage() const;
 
-    /// Records a language in the setting file.
-    void writeSettingLanguage(const QString& language) const;
+    /// Records a language in the setting file. Fails with the faults of WriteIniString.
+    [[nodiscard]] Result<Written> writeSettingLanguage(const QString& language) const;
 
 private:
     [[nodiscard]] Result<QString> languageFile() const;

@@ -204,21 +204,24 @@ Result<QString> ReadIniString(const QString& file, const QString& section, const
         [&](const QByteArray& profile) { return Result<QString>(valueIn(profile, section, key)); });
 }
 
-bool WriteIniString(const QString& file, const QString& section, const QString& key, const QString& value) {
+Result<Written> WriteIniString(const QString& file, const QString& section, const QString& key,
+                               const QString& value) {
     const Result<QByteArray> before = readProfile(file);
-    if (!before && before.failure().fault != Fault::NotFound) return false;
+    if (!before && before.failure().fault != Fault::NotFound) return before.failure();
     const QByteArray all = before ? utf16AsUtf8(before.value()) : QByteArray();
     const TextEncoding encoding = encodingOf(all); // which the new value must share with the other lines
     const std::optional<QByteArray> sectionText = lineText(section, encoding);
     const std::optional<QByteArray> keyText = lineText(key, encoding);
     const std::optional<QByteArray> valueText = lineText(value, encoding);
-    if (!sectionText || !keyText || !valueText) return false;
+    if (!sectionText || !keyText || !valueText)
+        return Failure{Fault::NotInCodePage, file, encodeCodePage(section + key + value).refused.left(1)};
     const QByteArray mark = all.first(markBytes(all));
     const QByteArray after =
         mark + profileWithValue(QByteArrayView(all).sliced(mark.size()), *sectionText, *keyText, *valueText);
     // Not what would be read back otherwise, or not at all.
-    if (after.size() > largestReadBytes || valueIn(after, section, key) != value) return false;
-    return writeWholeFile(file, after).ok();
+    if (after.size() > largestReadBytes) return Failure{Fault::TooLarge, file, {}};
+    if (valueIn(after, section, key) != value) return Failure{Fault::Damaged, file, {}};
+    return writeWholeFile(file, after);
 }
 
 } // namespace quarvel

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/result.h"
+#include "files/whole_file.h"
 
 #include <QByteArray>
 #include <QString>
@@ -23,9 +23,10 @@ inline constexpr qsizetype longestProfileValue = 511;
 /// Sets one entry of a profile file: the file, the section and the key are made when absent, an existing
 /// value of the key is replaced, every other line stays as it was, to the byte. The entry is in the encoding
 /// of the lines that are there, Windows-1252 in a new file; a file in UTF-16 becomes one in UTF-8. The file
-/// is its old or its new self. What could not be read back as it is, is not written. Returns whether it was
-/// written.
-bool WriteIniString(const QString& file, const QString& section, const QString& key, const QString& value);
+/// is its old or its new self. What could not be read back as it is, is not written. Fails with the faults of
+/// readProfile and writeWholeFile, with NotInCodePage, TooLarge or Damaged.
+[[nodiscard]] Result<Written> WriteIniString(const QString& file, const QString& section, const QString& key,
+                                             const QString& value);
 
 /// The value of a key in a profile's bytes, by the rules of a profile: names without regard to letter case,
 /// blanks around key and value ignored, one matching pair of quotes dropped, the first section of the name

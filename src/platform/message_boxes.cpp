@@ -1,5 +1,6 @@
 #include "platform/message_boxes.h"
 
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -47,7 +48,9 @@ Answer QtMessageBoxes::show(QWidget* parent, const MessageBox& box, const Button
     // The window may go while the box is open, and takes it along.
     const QPointer<QMessageBox> shown(
         new QMessageBox(iconOf(box.icon), box.title, box.text, buttonsOf(box.buttons), parent));
-    shown->setTextFormat(Qt::PlainText);
+    shown->setInformativeText(box.detail);
+    // Neither text is markup, whatever a path or a language file may hold.
+    for (QLabel* label : shown->findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
     // A box is answered, not minimised.
     shown->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                           Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);

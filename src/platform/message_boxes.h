@@ -17,6 +17,7 @@ struct MessageBox {
     QString title;
     Buttons buttons = Buttons::Ok;
     BoxIcon icon = BoxIcon::None;
+    QString detail{}; ///< stands below the text, smaller; mostly empty
 };
 
 /// The captions of the buttons, in the user's language.

@@ -104,6 +104,11 @@ constexpr std::array messages = {
     OwnMessage{u"0200",
                u"Il testo incollato o trascinato è più lungo dello spazio che c'è nella casella: ne è "
                u"entrato solo l'inizio. Il testo intero è ancora là da dove viene."},
+    // The main window: the language, a new airport, a missing picture.
+    OwnMessage{u"0220", u"La lingua scelta vale da adesso, ma non si può ricordarla per il prossimo avvio."},
+    OwnMessage{u"0221",
+               u"Vuoi lasciare questo aeroporto senza salvarlo? I dati che hai scritto vanno persi."},
+    OwnMessage{u"0222", u"La foto va messa qui:\n%1"},
     // A picture with rows missing. %2 is a number.
     OwnMessage{u"0240", u"La cartina scelta non è intera: ne vedi quello che il file contiene."},
     OwnMessage{u"0241", u"La foto dell'aeroporto non è intera: ne vedi quello che il file contiene."},

@@ -1,10 +1,10 @@
 #include "prompts/prompts.h"
 
+#include "forms/hint.h"
 #include "prompts/own_messages.h"
 
 #include <QApplication>
 #include <QPointer>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -57,10 +57,22 @@ ButtonCaptions Prompts::captions() {
     return {text(u"0102"_s), text(u"0103"_s), text(u"0104"_s), text(u"0105"_s)};
 }
 
-Answer Prompts::ask(Form& form, const QString& prompt, const QString& title, Buttons buttons, BoxIcon icon) {
-    const MessageBox box{language_.MLSGetString(prompt), language_.MLSGetString(title), buttons, icon};
+Answer Prompts::ask(Form& form, const QString& prompt, const QString& title, Buttons buttons, BoxIcon icon,
+                    const QString& detail) {
+    return show(form, {language_.MLSGetString(prompt), language_.MLSGetString(title), buttons, icon, detail});
+}
+
+Answer Prompts::askOwn(Form& form, const QString& prompt) {
+    return show(form, {text(prompt), text(u"0101"_s), Buttons::YesNo, BoxIcon::Question});
+}
+
+QString Prompts::textOn(const QString& number, const QString& path) {
+    return text(number).arg(breakablePath(path));
+}
+
+Answer Prompts::show(Form& form, const MessageBox& box) {
     const Form::OwnBox own(form);
-    return boxes_.show(form.window(), box, captions());
+    return boxes_.show(parentFor(form), box, captions());
 }
 
 void Prompts::showFixed(Form& form, const QString& text) {
@@ -89,7 +101,7 @@ void Prompts::tell(Form& form, Task task, const QString& path) {
 void Prompts::tell(Form& form, Task task) { showOwn(form, text(numberOf(task))); }
 
 void Prompts::tellSoon(Form& form, Task task) {
-    QTimer::singleShot(0, form.window(), [this, &form, task] { tell(form, task); });
+    form.queueMessage([this, &form, task] { tell(form, task); });
 }
 
 void Prompts::printWindow(Form& form, FormPrinter& printer) {
@@ -109,9 +121,7 @@ void Prompts::tellPrinted(Form& form, PrintOutcome outcome) {
 }
 
 void Prompts::showOwn(Form& form, const QString& text) {
-    const Form::OwnBox own(form);
-    const MessageBox box{text, this->text(u"0101"_s), Buttons::Ok, BoxIcon::Exclamation};
-    static_cast<void>(boxes_.show(parentFor(form), box, captions()));
+    static_cast<void>(show(form, {text, this->text(u"0101"_s), Buttons::Ok, BoxIcon::Exclamation}));
 }
 
 } // namespace quarvel

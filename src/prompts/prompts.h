@@ -32,10 +32,11 @@ enum class Task {
     UseState = 180,             ///< a file of what the program remembers; it was set aside
     KeepState = 181,            ///< the same, to be written
     PasteText = 200,            ///< more was pasted or dropped than the box takes
+    RememberLanguage = 220,     ///< the chosen language, in the setting file
     ShowChartInPart = 240,      ///< a chart of which rows are missing
     ShowAirportPictureInPart = 241,
-    AskPrintingService = 250,   ///< a printing service that does not answer; nothing was printed
-    ConfirmPrint = 251,         ///< one that fell silent while it took the page
+    AskPrintingService = 250, ///< a printing service that does not answer; nothing was printed
+    ConfirmPrint = 251,       ///< one that fell silent while it took the page
 };
 
 /// The window's own questions and messages, in the current language.
@@ -43,9 +44,13 @@ class Prompts {
 public:
     Prompts(modLanguageSupport& language, MessageBoxes& boxes);
 
-    /// Asks with the texts of two numbered messages, prompt and title.
+    /// Asks with the texts of two numbered messages, prompt and title. `detail` stands below the prompt.
     [[nodiscard]] Answer ask(Form& form, const QString& prompt, const QString& title, Buttons buttons,
-                             BoxIcon icon);
+                             BoxIcon icon, const QString& detail = {});
+    /// Asks one of the program's own questions, to be answered Yes or No.
+    [[nodiscard]] Answer askOwn(Form& form, const QString& prompt);
+    /// One of the program's own texts about a file.
+    [[nodiscard]] QString textOn(const QString& number, const QString& path);
     /// Shows a fixed text, titled with the application's name.
     void showFixed(Form& form, const QString& text);
     /// Tells what was being done, to which file, why it failed and what to do.
@@ -67,6 +72,7 @@ private:
     [[nodiscard]] QString text(const QString& number);
     [[nodiscard]] ButtonCaptions captions();
     void tellPrinted(Form& form, PrintOutcome outcome);
+    [[nodiscard]] Answer show(Form& form, const MessageBox& box);
     void showOwn(Form& form, const QString& text);
 
     modLanguageSupport& language_;

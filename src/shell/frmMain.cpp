@@ -21,6 +21,7 @@ void frmMain::wire() {
     c->txtNomeAeroporto.events.keyPress.calls(this, &frmMain::txtNomeAeroporto_KeyPress);
     c->txtNomeAeroporto.events.keyUp.calls(this, &frmMain::txtNomeAeroporto_KeyUp);
     c->txtNomeAeroporto.events.cut.calls(this, &frmMain::tellCutText);
+    c->txtNomeAeroporto.events.entered.calls(this, &frmMain::openTypedName);
     c->lstWords.clicked.calls(this, &frmMain::lstWords_Click);
     c->cmdElabora.clicked.calls(this, &frmMain::cmdElabora_Click);
     c->txtRwy.forEach([this](int index, TextBox& field) {
@@ -44,7 +45,7 @@ void frmMain::wire() {
 
 void frmMain::Form_Load() {
     presenterTextPath_.clear();
-    refusedDesignator_ = false;
+    madeFolders_.clear();
     MLSFillMenuLanguages();
     language_.MLSApplyLanguage(*this);
     giveOwnTexts();

@@ -36,9 +36,6 @@ public:
 
     explicit frmMain(const frmMainNeeds& needs);
 
-    /// Where a mail from the information frame goes; the frame shows the same address.
-    static constexpr char16_t supportAddress[] = u"supporto@quarvel.example";
-
     /// Makes language `index` current, puts its texts on every loaded window and records it.
     void SelectLanguage(int index);
 
@@ -46,6 +43,7 @@ protected:
     void wire() override;
     void Form_Load() override;
     void Form_Activate() override;
+    void Form_KeyDown(KeyDown& key) override;
     void giveOwnTexts() override;
 
 private:
@@ -87,11 +85,17 @@ private:
     void backToEditing();
     void endAfterSaving();
 
+    // What Escape takes away (frmMain_escape.cpp)
+    void takeResultsAway();
+    void leaveNewAirport();
+    [[nodiscard]] bool isAnythingTyped() const;
+
     // Search and opening (frmMain_opening.cpp)
     void txtNomeAeroporto_KeyPress(char16_t& key);
     void txtNomeAeroporto_KeyUp(int key);
     void lstWords_Click();
     void cmdElabora_Click();
+    void openTypedName();
     struct Before;
     [[nodiscard]] Before before() const;
     void putBack(const Before& before);
@@ -102,12 +106,13 @@ private:
     void showAirport(const QString& name, const Before& before);
     void fillFields(const AirportRecord& record);
     void presentAirport(const QString& name);
-    void endWithoutPicture();
+    void endWithoutPicture(const QString& name);
 
     // Language (frmMain_language.cpp)
     void MLSFillMenuLanguages();
     void setCurrentLanguageAtStart();
     void tellUnreadableLanguage();
+    void remember(const QString& language);
     void ImgLingua_Click(int index);
     void mnuLanguage_Click(int index);
 
@@ -120,8 +125,9 @@ private:
 
     ArchiveSearch search_;
     std::optional<QStringList> languages_; ///< the language list, built once per run
-    bool refusedDesignator_ = false;       ///< a designator above 18 is about to be told and emptied
     QString presenterTextPath_;            ///< of the open airport
+    QStringList madeFolders_;              ///< airports whose folders were made while this one is entered
+    bool toldForgetting_ = false;          ///< that the chosen language cannot be remembered
 };
 
 } // namespace quarvel

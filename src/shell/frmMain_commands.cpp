@@ -28,7 +28,9 @@ void frmMain::Label15_MouseMove() {
     c->Label15.setCursor(QCursor(compiledPicture("pointer"), 3, 2));
 }
 
-void frmMain::Label15_Click() { services_.urls.open(u"mailto:"_s + QString::fromUtf16(supportAddress)); }
+void frmMain::Label15_Click() {
+    services_.urls.open(u"mailto:"_s + QString::fromUtf16(frmMainControls::supportAddress));
+}
 
 void frmMain::cmdStampa_Click() { prompts_.printWindow(*this, services_.printer); }
 

@@ -21,6 +21,10 @@ struct frmMainControls {
 
     void showInformation();
 
+    /// Where a mail from the information frame goes. All else that names the address follows this line
+    /// (scripts/check version).
+    static constexpr char16_t supportAddress[] = u"supporto@quarvel.example";
+
     Container& form;
     ControlArray<TextBox> txtRwy; ///< the 39 entry fields; the index is the value's position in the record
     ControlArray<Label> Label6;
@@ -44,7 +48,7 @@ struct frmMainControls {
 
     Frame     fraMail     {form,      {.name = "fraMail", .place = {2520, 2160, 5175, 4335}, .caption = u"INFORMAZIONI", .shown = Shown::No, .look = {.weight = Weight::Bold, .text = QColor(255, 255, 0), .background = QColor(0, 0, 0)}}};
     Button    cmdEsciMail {fraMail,   {.name = "cmdEsciMail", .place = {3720, 3480, 855, 735}, .caption = u"&Chiudi", .toolTip = u"Chiudi la finestra", .picture = "esci_mail"}};
-    Link      Label15     {fraMail,   {.name = "Label15", .place = {0, 1200, 5175, 495}, .caption = u"supporto@quarvel.example", .look = addressLook}};
+    Link      Label15     {fraMail,   {.name = "Label15", .place = {0, 1200, 5175, 495}, .caption = supportAddress, .look = addressLook}};
     Label     Label6_4    {fraMail,   {.name = "Label6", .index = 4, .place = {0, 1680, 5175, 2625}, .caption =
         u"e  farò del mio meglio per rispondervi o risolvere il problema al più presto possibile. ATTENZIONE!!! "
         u"Non utilizzate questo software per la navigazione reale.              "

@@ -4,8 +4,6 @@
 #include "shell/frmMain.h"
 #include "text/key_filter.h"
 
-#include <QTimer>
-
 using namespace Qt::StringLiterals;
 
 namespace quarvel {
@@ -29,11 +27,8 @@ void frmMain::txtRwy_LostFocus(int index) {
 void frmMain::tellCutText() { prompts_.tellSoon(*this, Task::PasteText); }
 
 void frmMain::refuseDesignator(int index) {
-    refusedDesignator_ = true;
-    // A box in the middle of a change of focus would leave the button that was just pressed hanging.
-    QTimer::singleShot(0, window(), [this, index] {
+    queueMessage([this, index] {
         static_cast<void>(prompts_.ask(*this, u"0033"_s, u"0034"_s, Buttons::Ok, BoxIcon::Information));
-        refusedDesignator_ = false;
         if (c == nullptr) return;
         c->txtRwy[index].setText({});
         c->txtRwy[index].setFocus();
@@ -67,7 +62,6 @@ AirportRecord frmMain::typedRecord() const {
 }
 
 void frmMain::cmdSave_Click() {
-    if (refusedDesignator_) return; // the message that refuses it is about to be shown
     LockFields();
     if (!CheckIcaoCode()) {
         backToEditing();

@@ -65,8 +65,15 @@ void frmMain::SelectLanguage(int index) {
         form->giveOwnTexts();
     }
     // The item's caption is taken again: the language file may have renamed the item meanwhile.
-    language_.writeSettingLanguage(c != nullptr ? *c->mnuLanguage[index].caption() : language);
+    remember(c != nullptr ? *c->mnuLanguage[index].caption() : language);
     tellUnreadableLanguage();
+}
+
+void frmMain::remember(const QString& language) {
+    const Result<Written> written = language_.writeSettingLanguage(language);
+    if (written || toldForgetting_ || c == nullptr) return;
+    toldForgetting_ = true;
+    prompts_.tell(*this, Task::RememberLanguage, written.failure());
 }
 
 } // namespace quarvel

@@ -5,6 +5,7 @@
 #include "pictures/picture.h"
 #include "shell/frmMain.h"
 #include "text/key_filter.h"
+#include "text/strings.h"
 
 #include <QPointer>
 #include <memory>
@@ -71,6 +72,11 @@ void frmMain::lstWords_Click() {
 
 void frmMain::cmdElabora_Click() { OpenAirport(before()); }
 
+/// Return in the name box: the button below it, unless there is nothing to open.
+void frmMain::openTypedName() {
+    if (c->cmdElabora.isUsable() && !c->txtNomeAeroporto.text().isEmpty()) cmdElabora_Click();
+}
+
 void frmMain::OpenAirport(const Before& before) {
     const QString name = c->txtNomeAeroporto.text();
     if (const Result<void> allowed = checkAirportName(name, NameUse::Existing); !allowed) {
@@ -107,12 +113,14 @@ void frmMain::backToSearch() {
 }
 
 void frmMain::startNewAirport(const QString& name, const Before& before) {
-    if (const Result<AirportFolders> made = createAirportFolders(paths_, name); !made) {
+    const Result<AirportFolders> made = createAirportFolders(paths_, name);
+    if (!made) {
         putBack(before);
         const bool refusedName = made.failure().fault == Fault::BadName;
         prompts_.tell(*this, refusedName ? Task::NameAirport : Task::MakeFolders, made.failure());
         return;
     }
+    if (made.value() == AirportFolders::Made) madeFolders_.append(paths_.airportFolder(name).valueOr({}));
     ShowAirportData();
     c->Frame5.setShown(Shown::No);
     c->lstWords.setHint({}); // what it said has been done
@@ -146,7 +154,7 @@ void frmMain::showAirport(const QString& name, const Before& before) {
     ShowAirportData();
     c->txtRwy[IcaoCode].setFocus(); // what was used to open the airport is hidden or disabled
     if (!pictured.value()) {
-        endWithoutPicture();
+        endWithoutPicture(name);
         return;
     }
     c->imgAeroporto.setPicture(picture.value());
@@ -171,8 +179,12 @@ void frmMain::presentAirport(const QString& name) {
     presenter_.PresentAirport(c->TxtFile);
 }
 
-void frmMain::endWithoutPicture() {
-    static_cast<void>(prompts_.ask(*this, u"0031"_s, u"0032"_s, Buttons::Ok, BoxIcon::Information));
+void frmMain::endWithoutPicture(const QString& name) {
+    // The name that is looked for: a picture that differs in letter case may well lie there.
+    const QString folder = paths_.generalFolder(name).valueOr(paths_.archiveFolder());
+    const QString wanted = folder + u'/' + trimBlanks(state_.CurrentIcao) + u".gif"_s;
+    const QString detail = prompts_.textOn(u"0222"_s, wanted);
+    static_cast<void>(prompts_.ask(*this, u"0031"_s, u"0032"_s, Buttons::Ok, BoxIcon::Information, detail));
     unload();
     services_.process.endNow();
 }

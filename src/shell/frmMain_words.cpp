@@ -39,7 +39,8 @@ void frmMain::giveOwnTexts() {
 }
 
 void frmMain::showHints() {
-    c->lstWords.setHint(emptyListHint());
+    // A new airport has cleared what the list said: the next key in the name box says it again.
+    if (c->lstWords.hasHint()) c->lstWords.setHint(emptyListHint());
     showSearchHint();
 }
 

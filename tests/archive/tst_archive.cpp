@@ -106,6 +106,12 @@ private Q_SLOTS:
         QVERIFY(readRecord(paths_->dataFile(name.toLower()).value()).ok());
         QCOMPARE(paths_->familyFolder(name.toLower(), u"STAR"_s).value(),
                  at(u"Aeroporti/"_s + name + u"/Star/"_s));
+        for (const QString& byHand : {u".A"_s, u"A."_s, u"A "_s}) { // not made, but taken as they are
+            QVERIFY(!createAirportFolders(*paths_, byHand).ok());
+            QVERIFY(QDir().mkdir(at(u"Aeroporti/"_s + byHand)));
+            QVERIFY(createAirportFolders(*paths_, byHand).valueOr(AirportFolders::Made) ==
+                    AirportFolders::WereThere);
+        }
     }
 
     void openingLooksForExactNames() {

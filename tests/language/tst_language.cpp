@@ -94,7 +94,7 @@ private Q_SLOTS:
             {"a=1\n[x]\nb=2", "a=1\n[x]\nb=2\r\n[Language]\r\nCurrentLanguage=\xC8\r\n"}};
         for (const auto& [before, after] : files) {
             put(u"LangSetting.ini"_s, before);
-            support().writeSettingLanguage(u"È"_s);
+            static_cast<void>(support().writeSettingLanguage(u"È"_s));
             QCOMPARE(bytesOf(u"LangSetting.ini"_s), after);
             QCOMPARE(support().settingLanguage().value(), u"È"_s);
         }

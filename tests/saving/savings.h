@@ -39,12 +39,9 @@ inline Result<Written> save(Saving what, const QString& folder, int version) {
                          {{NotesBox::Text1, text}, {NotesBox::Text2, text}, {NotesBox::Text3, text}});
     case Saving::Language: break;
     }
-    const bool written =
-        WriteIniString(folder + QStringLiteral("/LangSetting.ini"), QStringLiteral("Language"),
-                       QStringLiteral("CurrentLanguage"),
-                       version % 2 == 0 ? QStringLiteral("English") : QStringLiteral("Italiano"));
-    if (!written) return Failure{Fault::Unwritable, folder, {}};
-    return Written();
+    return WriteIniString(folder + QStringLiteral("/LangSetting.ini"), QStringLiteral("Language"),
+                          QStringLiteral("CurrentLanguage"),
+                          version % 2 == 0 ? QStringLiteral("English") : QStringLiteral("Italiano"));
 }
 
 /// The bytes of all files below a folder by their paths; hidden files and folders only when asked for.

@@ -1,5 +1,6 @@
 #include "support/test_program.h"
 
+#include <QCloseEvent>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -45,18 +46,50 @@ private Q_SLOTS:
         QCOMPARE(test.field(9)->text(), u"03500"_s);
     }
 
-    void aRefusedDesignatorIsNotSavedByAMnemonic() {
+    void noCommandBeginsUnderARefusedDesignator_data() {
+        QTest::addColumn<QString>("control");
+        QTest::addColumn<int>("key");
+        for (const auto& [name, key] : {std::pair("cmdSave", Qt::Key_S), {"cmdElabora", Qt::Key_C}})
+            QTest::addRow("mnemonic of %s", name) << QString() << int(key);
+        for (const char* name : {"cmdElabora", "cmdReset", "lstWords"})
+            QTest::addRow("click on %s", name) << QString::fromLatin1(name) << 0;
+        for (const char* name : {"cmdReset", "txtNomeAeroporto", "ImgLingua(0)"})
+            QTest::addRow("Return on %s", name) << QString::fromLatin1(name) << int(Qt::Key_Return);
+        QTest::newRow("Escape") << u"txtRwy(4)"_s << int(Qt::Key_Escape);
+        QTest::newRow("the close box") << QString() << 0;
+    }
+    void noCommandBeginsUnderARefusedDesignator() {
+        QFETCH(QString, control);
+        QFETCH(int, key);
         NewAirport test;
-        test.enter(IcaoCode, u"LIRF"_s);
+        test.addAirport(u"LIRF"_s);
+        test.control<QLineEdit>(u"txtNomeAeroporto"_s)->selectAll();
+        test.type(u"lirf"_s); // another airport is listed, and "CREA" would open it
+        test.field(IcaoCode)->setText(u"LIRF"_s);
         test.field(8)->setText(u"X"_s);
         test.field(3)->setFocus();
         QTest::keyClicks(test.field(3), u"27"_s);
-        QTest::keyClick(test.mainWindow(), Qt::Key_S, Qt::AltModifier);
+        if (key != 0 && control.isEmpty()) {
+            QTest::keyClick(test.mainWindow(), Qt::Key(key), Qt::AltModifier);
+        } else if (key != 0) {
+            test.control(control)->setFocus();
+            QTest::keyClick(test.control(control), Qt::Key(key));
+        } else if (control == u"lstWords") {
+            test.clickRow(control, 0);
+        } else if (!control.isEmpty()) {
+            test.click(control);
+        } else {
+            test.field(4)->setFocus();
+            QCloseEvent closeBox;
+            QSpontaneKeyEvent::setSpontaneous(&closeBox);
+            qApp->notify(test.mainWindow(), &closeBox);
+        }
         QTRY_COMPARE(test.boxes.shown.size(), 1);
         QVERIFY(test.boxes.shown.first().text.contains(u"18"_s));
-        QVERIFY(!test.end.ended);
         QTRY_VERIFY(test.field(3)->hasFocus());
-        QCOMPARE(test.field(3)->text() + test.field(8)->text(), u"X"_s);
+        QCOMPARE(test.field(3)->text() + test.field(8)->text() + test.field(20)->text(), u"X"_s);
+        QVERIFY(!test.end.ended && test.control(u"cmdElabora"_s)->isEnabled());
+        QCOMPARE(test.program().state().MLSCurrentLanguage, u"Italiano"_s);
     }
 
     void savingWithoutCodeOrConsentWritesNothing() {

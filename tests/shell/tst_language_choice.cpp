@@ -18,7 +18,8 @@ QStringList keysOf(const ControlWindow& window) {
     const QString section = window.windowName() + u'/';
     QStringList keys{section + window.windowName() + u".Caption"_s};
     for (const Control* control : window.controls()) {
-        if (control->name() == u"mnuLanguage"_s) continue; // a key would rename the language itself
+        // A key would rename the language itself, or give another address than the one that is written to.
+        if (control->name() == u"mnuLanguage"_s || control->name() == u"Label15"_s) continue;
         const QString caption = control->caption().value_or(QString()).trimmed();
         if (!caption.isEmpty() && caption != u"-") // the caption of a menu's separator
             keys.append(section + controlKey(*control) + u".Caption"_s);

@@ -147,8 +147,8 @@ private Q_SLOTS:
             QTest::keyClick(test.mainWindow(), Qt::Key_Tab);
             QVERIFY2(test.control(next)->hasFocus(), qPrintable(next));
         }
-        test.click(u"cmdEsciMail"_s);
-        QVERIFY(test.control(u"cmdInfo"_s)->hasFocus());
+        QTest::keyClick(test.control(u"cmdEsciMail"_s), Qt::Key_Escape); // as the button does
+        QVERIFY(test.control(u"cmdInfo"_s)->hasFocus() && !test.control(u"fraMail"_s)->isVisible());
     }
 
     void chartsCommandPlaysUnloadsAndShowsTheViewer() {

@@ -4,10 +4,10 @@
 #include "files/lookup.h"
 #include "files/staging_folder.h"
 #include "files/system_error.h"
+#include "files/system_name.h"
 #include "files/whole_copy.h"
 
 #include <QDir>
-#include <QFile>
 #include <cerrno>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -23,7 +23,7 @@ const QStringList subFolders = {u"Sid"_s, u"Star"_s, u"Approach"_s, u"Aeroporto"
 /// 0, or the system's error number.
 int makeFolder(const QString& path) {
     // The user's mask takes its part away.
-    return ::mkdir(QFile::encodeName(path).constData(), 0777) == 0 ? 0 : errno;
+    return ::mkdir(systemName(path).constData(), 0777) == 0 ? 0 : errno;
 }
 
 bool isEmptyFolder(const QString& path) {
@@ -31,7 +31,7 @@ bool isEmptyFolder(const QString& path) {
     return names && names.value().isEmpty();
 }
 
-void removeFolder(const QString& path) { ::rmdir(QFile::encodeName(path).constData()); }
+void removeFolder(const QString& path) { ::rmdir(systemName(path).constData()); }
 
 } // namespace
 

@@ -2,9 +2,9 @@
 
 #include "files/folder_reader.h"
 #include "files/system_error.h"
+#include "files/system_name.h"
 
 #include <QChar>
-#include <QFile>
 #include <QList>
 #include <QtEndian>
 #include <algorithm>
@@ -38,7 +38,7 @@ void appendFolded(std::string& out, std::string_view name) {
     }
     if (all < 0x80) return;
     const auto size = static_cast<qsizetype>(name.size());
-    const QByteArray folded = foldedName(QFile::decodeName(QByteArray::fromRawData(name.data(), size)));
+    const QByteArray folded = foldedName(readableName(nameFromSystem(QByteArrayView(name.data(), size))));
     out.replace(begin, std::string::npos, folded.constData(), static_cast<std::size_t>(folded.size()));
 }
 

@@ -1,9 +1,9 @@
 #include "archive/listing.h"
 
 #include "files/folder_reader.h"
+#include "files/system_name.h"
 
 #include <QByteArray>
-#include <QFile>
 #include <optional>
 #include <string_view>
 
@@ -47,7 +47,7 @@ bool beginsLike(std::string_view text, std::string_view pattern) {
 } // namespace
 
 ArchiveState archiveState(const QString& folder) {
-    const QByteArray path = QFile::encodeName(folder);
+    const QByteArray path = systemName(folder);
     FolderReader reader(path);
     while (const dirent* found = reader.next()) {
         if (found->d_name[0] == '.') continue;
@@ -60,7 +60,7 @@ ArchiveState archiveState(const QString& folder) {
 
 ArchiveListing ArchiveSearch::list(const QString& folder, const QString& typed) {
     if (typed.contains(u'/') || typed.contains(u'\\')) return {};
-    if (!keeps(folder)) entries_ = std::make_shared<FolderEntries>(QFile::encodeName(folder));
+    if (!keeps(folder)) entries_ = std::make_shared<FolderEntries>(systemName(folder));
     const QByteArray folded = foldedName(typed);
     const std::string_view pattern(folded.constData(), static_cast<std::size_t>(folded.size()));
     const std::string_view beginning = pattern.substr(0, pattern.find_first_of("*?"));
@@ -83,7 +83,7 @@ ArchiveListing ArchiveSearch::list(const QString& folder, const QString& typed) 
 }
 
 bool ArchiveSearch::keeps(const QString& folder) const {
-    return entries_ && entries_->areCurrent(QFile::encodeName(folder), settled_);
+    return entries_ && entries_->areCurrent(systemName(folder), settled_);
 }
 
 QString ArchiveListing::text(int row) const {
@@ -91,7 +91,7 @@ QString ArchiveListing::text(int row) const {
     const std::size_t entry = picked_.empty() ? first_ + place : picked_[place].entry;
     const bool folder = picked_.empty() ? entries_->kind(entry) == EntryKind::Folder : picked_[place].folder;
     const std::string_view stored = entries_->stored(entry);
-    const QString name = QFile::decodeName(QByteArray(stored.data(), static_cast<qsizetype>(stored.size())));
+    const QString name = readableName(nameFromSystem(stored));
     return folder ? u'[' + name + u']' : name;
 }
 

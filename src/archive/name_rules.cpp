@@ -1,7 +1,8 @@
 #include "archive/name_rules.h"
 
+#include "files/system_name.h"
+
 #include <QChar>
-#include <QFile>
 
 namespace quarvel {
 
@@ -16,11 +17,7 @@ bool leavesFolder(QChar character) {
     return character == u'/' || character == u'\\' || character.category() == QChar::Other_Control;
 }
 
-/// The replacement character stands for bytes of a name on the disk that are no text: by it nothing is found.
-bool refused(QChar character) {
-    return leavesFolder(character) || character == QChar::ReplacementCharacter ||
-           u"*?\"<>|:"_s.contains(character);
-}
+bool refused(QChar character) { return leavesFolder(character) || u"*?\"<>|:"_s.contains(character); }
 
 } // namespace
 
@@ -32,7 +29,7 @@ Result<void> checkAirportName(const QString& name, NameUse use) {
     // What begins with a dot is hidden: the airport would never be listed.
     if (name.startsWith(u'.')) return Failure{Fault::BadName, name, name.first(1)};
     if (name.endsWith(u'.') || name.endsWith(u' ')) return Failure{Fault::BadName, name, name.last(1)};
-    if (QFile::encodeName(name).size() > longestNewName) return Failure{Fault::BadName, name, {}};
+    if (systemName(name).size() > longestNewName) return Failure{Fault::BadName, name, {}};
     return {};
 }
 

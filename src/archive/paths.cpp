@@ -52,7 +52,7 @@ Result<QString> ArchivePaths::picture(const QString& name, const QString& icao) 
     for (const QString& exact : {file, file.toLower()}) {
         const Result<bool> held = holdsExactly(folder.value(), exact);
         if (!held) return held.failure();
-        if (held.value()) return folder.value() + u'/' + exact;
+        if (held.value()) return resolvePath(folder.value(), exact);
     }
     return resolvePath(folder.value(), file);
 }

@@ -1,7 +1,8 @@
 #include "files/folder_locks.h"
 
+#include "files/system_name.h"
+
 #include <QDeadlineTimer>
-#include <QFile>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -30,7 +31,7 @@ FolderLocks::FolderLocks(const QStringList& folders) {
     const QDeadlineTimer deadline(longestWaitMilliseconds);
     for (const QString& folder : folders) {
         locked_.push_back(std::make_unique<Descriptor>(
-            ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
+            ::open(systemName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
         const int opened = locked_.back()->number();
         // A folder that may not be listed may still be written to.
         if (opened < 0 && errno == EACCES) continue;

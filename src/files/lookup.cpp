@@ -2,8 +2,8 @@
 
 #include "files/folder_reader.h"
 #include "files/system_error.h"
+#include "files/system_name.h"
 
-#include <QFile>
 #include <algorithm>
 #include <cerrno>
 #include <sys/stat.h>
@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace quarvel {
 namespace {
 
-QString composed(const QString& text) { return text.normalized(QString::NormalizationForm_C); }
+QString composed(const QString& text) { return readableName(text).normalized(QString::NormalizationForm_C); }
 
 int compareNames(const QString& left, const QString& right) {
     const int folded = QString::compare(composed(left), composed(right), Qt::CaseInsensitive);
@@ -32,7 +32,7 @@ Result<QStringList> entryNamesIfAny(const QString& folder) {
 /// The kind bits of what has this path, links followed; none for nothing, and for a link that leads nowhere.
 Result<mode_t> kindOf(const QString& path) {
     struct stat info {};
-    if (::stat(QFile::encodeName(path).constData(), &info) == 0) return info.st_mode & S_IFMT;
+    if (::stat(systemName(path).constData(), &info) == 0) return info.st_mode & S_IFMT;
     if (meansAbsent(errno) || errno == ELOOP) return mode_t{0};
     return readFailure(path, errno);
 }
@@ -49,7 +49,7 @@ bool sameName(const QString& left, const QString& right) {
 
 Result<bool> isThere(const QString& path) {
     struct stat info {};
-    if (::lstat(QFile::encodeName(path).constData(), &info) == 0) return true;
+    if (::lstat(systemName(path).constData(), &info) == 0) return true;
     if (meansAbsent(errno)) return false;
     return readFailure(path, errno);
 }
@@ -59,9 +59,9 @@ Result<bool> isFolder(const QString& path) {
 }
 
 Result<QStringList> entryNames(const QString& folder) {
-    FolderReader reader(QFile::encodeName(folder));
+    FolderReader reader(systemName(folder));
     QStringList names;
-    while (const dirent* entry = reader.next()) names.append(QFile::decodeName(entry->d_name));
+    while (const dirent* entry = reader.next()) names.append(nameFromSystem(entry->d_name));
     if (reader.error() != 0) return readFailure(folder, reader.error());
     return names;
 }
@@ -75,6 +75,10 @@ Result<QString> nameOnDisk(const QString& folder, const QString& name) {
     QStringList alike;
     for (const QString& entry : entries.value())
         if (sameName(entry, name)) alike.append(entry);
+    const auto sameLetters = std::find_if(alike.cbegin(), alike.cend(), [&name](const QString& entry) {
+        return readableName(entry) == name; // in bytes that are no UTF-8
+    });
+    if (sameLetters != alike.cend()) return *sameLetters;
     return alike.isEmpty() ? name : *std::min_element(alike.cbegin(), alike.cend());
 }
 
@@ -109,7 +113,12 @@ Result<QString> resolveForWriting(const QString& root, const QString& relative) 
 Result<bool> holdsExactly(const QString& folder, const QString& name) {
     const Result<QStringList> names = entryNamesIfAny(folder);
     if (!names) return names.failure();
-    return names.value().contains(name) ? isFile(folder + u'/' + name) : false;
+    for (const QString& held : names.value()) {
+        if (readableName(held) != name) continue;
+        const Result<bool> file = isFile(folder + u'/' + held);
+        if (!file || file.value()) return file;
+    }
+    return false;
 }
 
 Result<QStringList> listFiles(const QString& folder) {

@@ -7,7 +7,8 @@
 
 namespace quarvel {
 
-/// Whether two file names are one name on a file system without letter case (accents composed first).
+/// Whether two file names are one name to a reader without letter case: as readableName() has them, accents
+/// composed.
 [[nodiscard]] bool sameName(const QString& left, const QString& right);
 
 /// The name by which `folder` holds `name`: the exact one when it is there, else the first, in name order,

@@ -2,8 +2,8 @@
 
 #include "files/lookup.h"
 #include "files/system_error.h"
+#include "files/system_name.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <cerrno>
 #include <sys/stat.h>
@@ -21,7 +21,7 @@ Result<void> makeFolder(const QString& path, FolderAccess access) {
     if (const QString above = QFileInfo(path).path(); above != path)
         if (Result<void> made = makeFolder(above, access); !made) return made;
     const mode_t mode = access == FolderAccess::Usual ? usualMode : ownerMode;
-    if (::mkdir(QFile::encodeName(path).constData(), mode) == 0) return {};
+    if (::mkdir(systemName(path).constData(), mode) == 0) return {};
     const int error = errno;
     if (isFolder(path).valueOr(false)) return {}; // another process was quicker
     return writeFailure(path, error);

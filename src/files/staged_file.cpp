@@ -3,9 +3,9 @@
 #include "files/descriptor.h"
 #include "files/lookup.h"
 #include "files/system_error.h"
+#include "files/system_name.h"
 #include "files/whole_file.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 #include <cerrno>
@@ -27,7 +27,7 @@ constexpr qint64 largestCopied = qint64{1} << 30; // held in memory meanwhile
 
 /// The regular file at `place`, none where nothing is.
 Result<std::optional<struct stat>> regularFileAt(const QString& place) {
-    const QByteArray name = QFile::encodeName(place);
+    const QByteArray name = systemName(place);
     struct stat info {};
     if (::lstat(name.constData(), &info) != 0) {
         if (errno == ENOENT) return std::optional<struct stat>();
@@ -67,7 +67,7 @@ int move(const QByteArray& from, const QByteArray& to) {
 
 int writeNewLike(const QString& path, const QByteArray& bytes, const struct stat* other) {
     const Descriptor file(
-        ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, usualMode));
+        ::open(systemName(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, usualMode));
     if (file.number() < 0) return errno;
     if (other != nullptr) makeLike(file.number(), *other);
     for (qsizetype done = 0; done < bytes.size();) {
@@ -103,9 +103,9 @@ Result<void> StagedFile::keepOld() {
     if (!replaces_) return {};
     if (const Result<void> made = staging_.makeOldFolder(); !made)
         return Failure{made.failure().fault, known_, {}};
-    const QByteArray place = QFile::encodeName(place_);
+    const QByteArray place = systemName(place_);
     struct stat info {};
-    if (::link(place.constData(), QFile::encodeName(old_).constData()) == 0) return {};
+    if (::link(place.constData(), systemName(old_).constData()) == 0) return {};
     if (::lstat(place.constData(), &info) != 0) return writeFailure(known_, errno);
     const Result<QByteArray> bytes = readWholeFile(place_, largestCopied);
     if (!bytes) return Failure{bytes.failure().fault, known_, {}};
@@ -114,8 +114,8 @@ Result<void> StagedFile::keepOld() {
 }
 
 Result<void> StagedFile::takeName() {
-    const QByteArray from = QFile::encodeName(new_);
-    const QByteArray to = QFile::encodeName(place_);
+    const QByteArray from = systemName(new_);
+    const QByteArray to = systemName(place_);
     const int error = replaces_ ? move(from, to) : moveToFree(from, to);
     // A network share may say that it failed when it did not: what has left its old name has the new one.
     const Result<bool> left = error == 0 ? Result<bool>(false) : isThere(new_);
@@ -126,8 +126,8 @@ Result<void> StagedFile::takeName() {
 
 bool StagedFile::takeNameBack() {
     if (!taken_) return true;
-    const QByteArray place = QFile::encodeName(place_);
-    const bool back = replaces_ ? move(QFile::encodeName(old_), place) == 0 || !isThere(old_).valueOr(true)
+    const QByteArray place = systemName(place_);
+    const bool back = replaces_ ? move(systemName(old_), place) == 0 || !isThere(old_).valueOr(true)
                                 : ::unlink(place.constData()) == 0 || errno == ENOENT;
     taken_ = !back;
     return back;

@@ -2,15 +2,16 @@
 
 #include "files/lookup.h"
 #include "files/system_error.h"
+#include "files/system_name.h"
 
-#include <QDir>
-#include <QFile>
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <system_error>
 
 using namespace Qt::StringLiterals;
 
@@ -19,10 +20,16 @@ namespace {
 
 const QString namePrefix = u".quarvel-new-"_s;
 const QString shownPrefix = u"Quarvel-old-"_s;
+constexpr int randomLetters = 6; // behind the prefix
 constexpr int attempts = 100;
 
 int openFolder(const QString& path) {
-    return ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    return ::open(systemName(path).constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+}
+
+void removeFolder(const QString& path) {
+    std::error_code left; // is cleared the next time
+    std::filesystem::remove_all(systemName(path).toStdString(), left);
 }
 
 QString oldFolderIn(const QString& staging) { return staging + u"/.old"_s; }
@@ -33,7 +40,7 @@ bool holdsLastCopies(const QString& folder) {
     if (!names) return names.failure().fault != Fault::NotFound;
     return std::any_of(names.value().begin(), names.value().end(), [&](const QString& name) {
         struct stat info {};
-        const bool seen = ::lstat(QFile::encodeName(folder + u'/' + name).constData(), &info) == 0;
+        const bool seen = ::lstat(systemName(folder + u'/' + name).constData(), &info) == 0;
         return !seen || info.st_nlink == 1;
     });
 }
@@ -43,8 +50,7 @@ QString bringToLight(const QString& staging) {
     const QString hidden = oldFolderIn(staging);
     QString shown = staging;
     shown.replace(shown.lastIndexOf(namePrefix), namePrefix.size(), shownPrefix);
-    const bool moved =
-        ::rename(QFile::encodeName(hidden).constData(), QFile::encodeName(shown).constData()) == 0;
+    const bool moved = ::rename(systemName(hidden).constData(), systemName(shown).constData()) == 0;
     return moved || !isThere(hidden).valueOr(true) ? shown : hidden;
 }
 
@@ -53,14 +59,14 @@ QString bringToLight(const QString& staging) {
 StagingFolder::StagingFolder(const QString& path) : path_(path), locked_(openFolder(path)) {}
 
 StagingFolder::~StagingFolder() {
-    if (kept_ != oldFolder()) QDir(path_).removeRecursively();
+    if (kept_ != oldFolder()) removeFolder(path_);
 }
 
 Result<std::unique_ptr<StagingFolder>> StagingFolder::make(const QString& folder) {
     for (int attempt = 0; attempt < attempts; ++attempt) {
-        QByteArray name = QFile::encodeName(folder + u'/' + namePrefix + u"XXXXXX"_s);
+        QByteArray name = systemName(folder + u'/' + namePrefix + u"XXXXXX"_s);
         if (::mkdtemp(name.data()) == nullptr) return writeFailure(folder, errno);
-        std::unique_ptr<StagingFolder> made(new StagingFolder(QFile::decodeName(name)));
+        std::unique_ptr<StagingFolder> made(new StagingFolder(nameFromSystem(name)));
         const int error = made->locked_.number() < 0 ? errno : 0;
         if (error != 0 && error != ENOENT) return writeFailure(folder, error);
         // Before it was locked, another process may have taken it for a left-over. On a file system without
@@ -74,7 +80,7 @@ Result<std::unique_ptr<StagingFolder>> StagingFolder::make(const QString& folder
 QString StagingFolder::oldFolder() const { return oldFolderIn(path_); }
 
 Result<void> StagingFolder::makeOldFolder() {
-    if (::mkdir(QFile::encodeName(oldFolder()).constData(), S_IRWXU) == 0 || errno == EEXIST) return {};
+    if (::mkdir(systemName(oldFolder()).constData(), S_IRWXU) == 0 || errno == EEXIST) return {};
     return writeFailure(path_, errno);
 }
 
@@ -84,15 +90,15 @@ QString StagingFolder::keepOldFolder() {
 }
 
 void StagingFolder::clearLeftOvers(const QString& folder) {
-    // To the letter: by its capitals a folder of the user's may be told from one of these.
-    const QStringList names = QDir(folder).entryList(
-        {namePrefix + u"??????"_s}, QDir::Dirs | QDir::Hidden | QDir::NoSymLinks | QDir::CaseSensitive);
-    for (const QString& name : names) {
+    const Result<QStringList> names = entryNames(folder);
+    for (const QString& name : names ? names.value() : QStringList()) {
+        // To the letter: by its capitals a folder of the user's may be told from one of these.
+        if (!name.startsWith(namePrefix) || name.size() != namePrefix.size() + randomLetters) continue;
         const QString path = folder + u'/' + name;
         const Descriptor opened(openFolder(path));
         if (opened.number() < 0 || ::flock(opened.number(), LOCK_EX | LOCK_NB) != 0) continue;
         if (!holdsLastCopies(oldFolderIn(path)) || bringToLight(path) != oldFolderIn(path))
-            QDir(path).removeRecursively();
+            removeFolder(path);
     }
 }
 

@@ -3,10 +3,10 @@
 #include "files/descriptor.h"
 #include "files/lookup.h"
 #include "files/system_error.h"
+#include "files/system_name.h"
 #include "files/whole_file.h"
 
 #include <QByteArray>
-#include <QFile>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -41,12 +41,12 @@ Result<void> copyWholeFile(const QString& from, const QString& to) {
 Result<void> copyWholeFolder(const QString& from, const QString& to) {
     const Result<QStringList> names = entryNames(from);
     if (!names) return names.failure();
-    if (::mkdir(QFile::encodeName(to).constData(), 0777) != 0) return writeFailure(to, errno);
+    if (::mkdir(systemName(to).constData(), 0777) != 0) return writeFailure(to, errno);
     for (const QString& name : names.value()) {
         const QString source = from + u'/' + name;
         const QString target = to + u'/' + name;
         struct stat info {};
-        if (::lstat(QFile::encodeName(source).constData(), &info) != 0) return readFailure(source, errno);
+        if (::lstat(systemName(source).constData(), &info) != 0) return readFailure(source, errno);
         if (Result<void> copied =
                 S_ISDIR(info.st_mode) ? copyWholeFolder(source, target) : copyWholeFile(source, target);
             !copied)
@@ -57,8 +57,8 @@ Result<void> copyWholeFolder(const QString& from, const QString& to) {
 }
 
 Result<void> moveToFreeName(const QString& from, const QString& to) {
-    const QByteArray source = QFile::encodeName(from);
-    const QByteArray target = QFile::encodeName(to);
+    const QByteArray source = systemName(from);
+    const QByteArray target = systemName(to);
     int error = 0;
     if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) != 0)
         error = errno;
@@ -68,8 +68,7 @@ Result<void> moveToFreeName(const QString& from, const QString& to) {
 }
 
 void flushFolder(const QString& folder) {
-    const Descriptor opened(
-        ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Descriptor opened(::open(systemName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (opened.number() >= 0) ::fsync(opened.number());
 }
 

@@ -2,8 +2,8 @@
 
 #include "files/descriptor.h"
 #include "files/system_error.h"
+#include "files/system_name.h"
 
-#include <QFile>
 #include <cerrno>
 #include <fcntl.h>
 #include <new>
@@ -14,8 +14,7 @@ namespace quarvel {
 
 Result<QByteArray> readWholeFile(const QString& path, qint64 limitBytes) {
     // Opened without blocking: a pipe without a writer would otherwise wait for one before it can be refused.
-    const Descriptor file(
-        ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+    const Descriptor file(::open(systemName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
     if (file.number() < 0) return readFailure(path, errno);
     struct stat info {};
     if (::fstat(file.number(), &info) != 0) return readFailure(path, errno);

@@ -3,10 +3,10 @@
 #include "files/staged_file.h"
 #include "files/staging_folder.h"
 #include "files/system_error.h"
+#include "files/system_name.h"
 #include "files/whole_copy.h"
 #include "files/whole_file.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 #include <cerrno>
@@ -24,9 +24,9 @@ namespace {
 
 /// A path without links, by the one name that each folder has.
 Result<QString> withoutLinks(const QString& path, const QString& known) {
-    const std::unique_ptr<char, decltype(&std::free)> real(
-        ::realpath(QFile::encodeName(path).constData(), nullptr), &std::free);
-    if (real) return QFile::decodeName(real.get());
+    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(systemName(path).constData(), nullptr),
+                                                           &std::free);
+    if (real) return nameFromSystem(real.get());
     return writeFailure(known, errno);
 }
 
@@ -34,7 +34,7 @@ Result<QString> withoutLinks(const QString& path, const QString& known) {
 /// one to nothing is refused.
 Result<QString> placeOf(const QString& path) {
     struct stat info {};
-    const int error = ::lstat(QFile::encodeName(path).constData(), &info) == 0 ? 0 : errno;
+    const int error = ::lstat(systemName(path).constData(), &info) == 0 ? 0 : errno;
     if (error != 0 && error != ENOENT) return writeFailure(path, error);
     if (error == 0 && S_ISLNK(info.st_mode)) {
         const Result<QString> led = withoutLinks(path, path);

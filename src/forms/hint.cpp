@@ -1,5 +1,6 @@
 #include "forms/hint.h"
 
+#include "files/system_name.h"
 #include "forms/widget_control.h"
 
 #include <QEvent>
@@ -59,6 +60,6 @@ void Hint::showText(const QString& text) {
     label_->setVisible(!text.isEmpty());
 }
 
-QString breakablePath(QString path) { return path.replace(u"/"_s, u"/\u200B"_s); }
+QString breakablePath(const QString& path) { return readableName(path).replace(u"/"_s, u"/\u200B"_s); }
 
 } // namespace quarvel

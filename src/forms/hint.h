@@ -26,7 +26,7 @@ private:
     QLabel* label_;
 };
 
-/// A path that a narrow text can break after any of its folders.
-[[nodiscard]] QString breakablePath(QString path);
+/// A path as people read it, which a narrow text can break after any of its folders.
+[[nodiscard]] QString breakablePath(const QString& path);
 
 } // namespace quarvel

@@ -1,6 +1,7 @@
 #include "language/language_support.h"
 
 #include "files/lookup.h"
+#include "files/system_name.h"
 #include "language/profile.h"
 #include "text/strings.h"
 
@@ -43,7 +44,7 @@ QStringList modLanguageSupport::languages() const {
     if (!files) return names;
     for (const QString& file : files.value()) {
         // Composed, as the setting file will give the name back: it is compared exactly.
-        const QString name = StripExtension(file).normalized(QString::NormalizationForm_C);
+        const QString name = StripExtension(readableName(file)).normalized(QString::NormalizationForm_C);
         if (file.endsWith(u".lng", Qt::CaseInsensitive) && isLanguageName(name)) names.append(name);
     }
     names.removeDuplicates(); // the same name with .lng and .LNG

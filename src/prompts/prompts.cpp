@@ -1,5 +1,6 @@
 #include "prompts/prompts.h"
 
+#include "files/system_name.h"
 #include "forms/hint.h"
 #include "prompts/own_messages.h"
 
@@ -87,11 +88,12 @@ void Prompts::tell(Form& form, Task task, const Failure& failure) {
     QString reason = text(partly && failure.detail.isEmpty() ? partlyMade : numberOf(failure.fault));
     // Both places at once: a file's name may itself hold a percent sign.
     reason = reason.contains(u"%2"_s) ? reason.arg(failure.path, failure.detail) : reason.arg(failure.path);
-    showOwn(form, text(partly ? partlySaved : numberOf(task)) + u"\n\n"_s + reason);
+    showOwn(form, text(partly ? partlySaved : numberOf(task)) + u"\n\n"_s + readableName(reason));
 }
 
 void Prompts::tellOf(Form& form, const Written& written) {
-    if (!written.separated.isEmpty()) showOwn(form, text(otherNames).arg(written.separated.join(u'\n')));
+    if (!written.separated.isEmpty())
+        showOwn(form, text(otherNames).arg(readableName(written.separated.join(u'\n'))));
 }
 
 void Prompts::tell(Form& form, Task task, const QString& path) {

@@ -267,7 +267,7 @@ private Q_SLOTS:
     void aNameThatLeadsElsewhereIsRefused_data() {
         QTest::addColumn<QString>("name");
         for (const auto& name : {u".."_s, u"."_s, u"../LIRF"_s, u"LIRF/../LIRF"_s, u"..\\LIRF"_s, u"/etc"_s,
-                                 u"C:LIRF"_s, u"LI*"_s, u"FORL\uFFFD"_s})
+                                 u"C:LIRF"_s, u"LI*"_s})
             QTest::newRow(qPrintable(name)) << name;
     }
     void aNameThatLeadsElsewhereIsRefused() {
@@ -299,14 +299,18 @@ private Q_SLOTS:
     }
 
     void accentsAreTheSameHoweverTheyAreStored() {
-        for (const auto& [stored, typed] :
-             {std::pair(u"FORLI\u0300"_s, u"forl\u00EC"_s), {u"FORL\u00CC"_s, u"FORLI\u0300"_s}}) {
+        // The last is no UTF-8, but what an archive of an older system left.
+        for (const auto& [stored, typed] : {std::pair(QByteArray("FORLI\xCC\x80"), u"forl\u00EC"_s),
+                                            {QByteArray("FORL\xC3\x8C"), u"FORLI\u0300"_s},
+                                            {QByteArray("FORL\xCC"), u"forl\u00EC"_s}}) {
             const auto test = started();
             test->addAirport(u"LIPK"_s);
-            QDir archive(test->path(u"aeroporti"_s));
-            QVERIFY(archive.rename(u"LIPK"_s, stored));
-            QVERIFY(archive.rename(stored + u"/Aeroporto/LIPK.txt"_s,
-                                   stored + u"/Aeroporto/%1.txt"_s.arg(stored)));
+            const QByteArray archive = test->path(u"aeroporti/"_s).toUtf8();
+            const QByteArray folder = archive + stored;
+            QCOMPARE(::rename((archive + "LIPK").constData(), folder.constData()), 0);
+            QCOMPARE(::rename((folder + "/Aeroporto/LIPK.txt").constData(),
+                              (folder + "/Aeroporto/" + stored + ".txt").constData()),
+                     0);
             enter(*test, typed);
             TestProgram::clickRow(test->mainWindow(), u"lstWords"_s, 0);
             QVERIFY(TestProgram::control(test->mainWindow(), u"Frame4"_s)->isVisible());

@@ -134,6 +134,25 @@ private Q_SLOTS:
         QCOMPARE(test.notes(u"Text1"_s).size(), 15000);
     }
 
+    void namesOfAnOlderSystemAreReadAsWindowsLetters() {
+        Viewer test;
+        const QByteArray folder = test.path(u"aeroporti/LIRF/Sid/"_s).toUtf8();
+        const auto rename = [&](const char* from, const char* to) {
+            QCOMPARE(::rename((folder + from).constData(), (folder + to).constData()), 0);
+        };
+        rename("zeta.gif", "zet\xE0 \x80.gif");
+        rename("ROTTA_KENN1.txt", "ROTTA_ZET\xC0 \x80.txt");
+        test.choose(u"Option1(0)"_s, 2);
+        QCOMPARE(test.rows(u"List1"_s).last(), u"ZET\u00C0 \u20AC"_s);
+        QCOMPARE(test.control(u"Image1"_s)->size(), QSize(300, 200));
+        QCOMPARE(test.notes(u"Text2"_s), u"VIA OST\nDRITTO"_s);
+        test.box(u"Text2"_s)->setPlainText(u"VIA ELB"_s);
+        test.click(u"cmdSave"_s);
+        test.clickRow(u"List1"_s, 1);
+        test.clickRow(u"List1"_s, 2);
+        QCOMPARE(test.notes(u"Text2"_s), u"VIA ELB"_s);
+    }
+
     void savingNeedsAChartOfTheListAndWhatCanBeStored() {
         Viewer test;
         test.choose(u"Option1(0)"_s, 1);

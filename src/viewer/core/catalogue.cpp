@@ -1,5 +1,6 @@
 #include "viewer/core/catalogue.h"
 
+#include "files/system_name.h"
 #include "text/code_page.h"
 #include "text/strings.h"
 
@@ -41,7 +42,7 @@ QString inCapitals(const QString& text) {
 QStringList chartNames(const QStringList& files) {
     QStringList names;
     for (const QString& file : files) {
-        const QString name = inCapitals(file);
+        const QString name = inCapitals(readableName(file));
         if (GetExtension(name) == "GIF"_L1) names.append(StripExtension(name));
     }
     return names;

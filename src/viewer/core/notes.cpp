@@ -79,13 +79,15 @@ Result<QByteArray> noteBytes(const QString& text, const QString& path) {
 }
 
 Result<QString> loadNote(const QString& folder, const NoteKind& kind, const QString& chartName) {
-    const Result<bool> held = holdsExactly(folder, noteFileName(kind, chartName));
+    const QString name = noteFileName(kind, chartName);
+    const Result<bool> held = holdsExactly(folder, name);
     if (!held) return held.failure();
     if (!held.value()) return QString();
-    const QString path = noteFilePath(folder, kind, chartName);
-    const Result<QByteArray> bytes = readWholeFile(path, largestNoteBytes);
+    const Result<QString> path = resolvePath(folder, name);
+    if (!path) return path;
+    const Result<QByteArray> bytes = readWholeFile(path.value(), largestNoteBytes);
     if (!bytes) return bytes.failure();
-    return parseNote(bytes.value(), path);
+    return parseNote(bytes.value(), path.value());
 }
 
 Result<Written> saveNotes(const QString& folder, Family family, const QString& chartName,

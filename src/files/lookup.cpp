@@ -3,10 +3,13 @@
 #include "files/folder_reader.h"
 #include "files/system_error.h"
 #include "files/system_name.h"
+#include "text/name_order.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <sys/stat.h>
+#include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -14,11 +17,6 @@ namespace quarvel {
 namespace {
 
 QString composed(const QString& text) { return readableName(text).normalized(QString::NormalizationForm_C); }
-
-int compareNames(const QString& left, const QString& right) {
-    const int folded = QString::compare(composed(left), composed(right), Qt::CaseInsensitive);
-    return folded != 0 ? folded : QString::compare(left, right);
-}
 
 /// A name that is nothing but a chart's extension is a chart without a name, not a hidden file.
 bool isHidden(const QString& name) { return name.startsWith(u'.') && !sameName(name, u".gif"_s); }
@@ -124,11 +122,13 @@ Result<bool> holdsExactly(const QString& folder, const QString& name) {
 Result<QStringList> listFiles(const QString& folder) {
     const Result<QStringList> entries = entryNames(folder);
     if (!entries) return entries.failure();
-    QStringList names;
+    std::vector<std::pair<QString, QString>> keyed;
     for (const QString& name : entries.value())
-        if (!isHidden(name) && isFile(folder + u'/' + name).valueOr(true)) names.append(name);
-    std::sort(names.begin(), names.end(),
-              [](const QString& a, const QString& b) { return compareNames(a, b) < 0; });
+        if (!isHidden(name) && isFile(folder + u'/' + name).valueOr(true))
+            keyed.emplace_back(sortingKey(readableName(name)), name);
+    std::sort(keyed.begin(), keyed.end());
+    QStringList names;
+    for (const auto& [key, name] : keyed) names.append(name);
     return names;
 }
 

@@ -52,11 +52,13 @@ private Q_SLOTS:
     }
 
     void filesOfFolder() {
-        for (const QString& name : {u"b.gif"_s, u"A.GIF"_s, u"È.gif"_s, u"a.gif"_s, u".hidden"_s})
-            put(at(name));
+        const QStringList names = {u"A.GIF"_s,     u"a.gif"_s,    u"b.gif"_s,     u"b2.gif"_s, u"B2a.gif"_s,
+                                   u"b002b.gif"_s, u"b010.gif"_s, u"b10 1.gif"_s, u"È.gif"_s};
+        for (auto name = names.crbegin(); name != names.crend(); ++name) put(at(*name));
+        put(at(u".hidden"_s));
         QVERIFY(QDir(root_).mkdir(u"Folder"_s));
         makePipe(at(u"pipe"_s));
-        QCOMPARE(listFiles(root_).value(), (QStringList{u"A.GIF"_s, u"a.gif"_s, u"b.gif"_s, u"È.gif"_s}));
+        QCOMPARE(listFiles(root_).value(), names);
         QCOMPARE(listFiles(at(u"missing"_s)).failure().fault, Fault::NotFound);
     }
 

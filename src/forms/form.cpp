@@ -59,10 +59,10 @@ bool Form::requestUnload(UnloadReason reason) {
 
 QString Form::windowName() const { return QString::fromLatin1(design_.name); }
 
-QString Form::windowCaption() const { return widget_ ? widget_->windowTitle() : QString(); }
+QString Form::windowCaption() const { return widget_ ? widget_->caption() : QString(); }
 
 void Form::setWindowCaption(const QString& text) {
-    if (widget_) widget_->setWindowTitle(text);
+    if (widget_) widget_->setCaption(text);
 }
 
 QString Form::windowTag() const { return tag_; }

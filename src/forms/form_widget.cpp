@@ -4,6 +4,7 @@
 #include "forms/focus_ring.h"
 #include "forms/held_keys.h"
 #include "forms/look.h"
+#include "text/strings.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -57,7 +58,7 @@ QPoint centredOn(const QRect& screen, const QSize& window) {
 FormWidget::FormWidget(Form& form, const FormDesign& design)
     : Container(insideOf(*this, design), design.scale, list), form_(&form) {
     setObjectName(QString::fromLatin1(design.name));
-    setWindowTitle(QString::fromUtf16(design.caption));
+    setCaption(QString::fromUtf16(design.caption));
     if (design.background.isValid()) setPalette(QPalette(colour::face, design.background));
     const QSize client(pixels(design.clientWidth), pixels(design.clientHeight));
     if (design.border == Border::Fixed) {
@@ -98,6 +99,11 @@ void FormWidget::queueMessage(std::function<void()> show) {
         show();
         if (window != nullptr) --window->dueMessages_;
     });
+}
+
+void FormWidget::setCaption(const QString& text) {
+    caption_ = text;
+    setWindowTitle(toolkitTitle(text));
 }
 
 void FormWidget::endOwnBox() {

@@ -30,6 +30,8 @@ public:
     /// The window lets go of this widget, which must not call it any more.
     void detach();
 
+    [[nodiscard]] const QString& caption() const { return caption_; }
+    void setCaption(const QString& text);
     [[nodiscard]] QMenuBar* menuBar() override { return menuBar_; }
     /// Grows by the menu bar's height, so that the inside has its designed size. Comes after the menus.
     void makeRoomForMenuBar();
@@ -67,6 +69,7 @@ private:
     void putBack();
 
     Form* form_;
+    QString caption_;
     QMenuBar* menuBar_ = nullptr;
     std::shared_ptr<void> kept_;
     int ownBoxes_ = 0;

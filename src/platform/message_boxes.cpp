@@ -1,5 +1,7 @@
 #include "platform/message_boxes.h"
 
+#include "text/strings.h"
+
 #include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
@@ -47,7 +49,7 @@ Answer answerOf(int button) {
 Answer QtMessageBoxes::show(QWidget* parent, const MessageBox& box, const ButtonCaptions& captions) {
     // The window may go while the box is open, and takes it along.
     const QPointer<QMessageBox> shown(
-        new QMessageBox(iconOf(box.icon), box.title, box.text, buttonsOf(box.buttons), parent));
+        new QMessageBox(iconOf(box.icon), toolkitTitle(box.title), box.text, buttonsOf(box.buttons), parent));
     shown->setInformativeText(box.detail);
     // Neither text is markup, whatever a path or a language file may hold.
     for (QLabel* label : shown->findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);

@@ -13,6 +13,11 @@ QString StripExtension(const QString& name) { return name.left(std::max<qsizetyp
 
 QString GetExtension(const QString& name) { return name.right(3); }
 
+QString toolkitTitle(QString title) {
+    return title.isEmpty() ? QStringLiteral(" ")
+                           : title.replace(QLatin1StringView("[*]"), QLatin1StringView("[*][*]"));
+}
+
 QString trimBlanks(const QString& text) {
     qsizetype first = 0;
     qsizetype end = text.size();

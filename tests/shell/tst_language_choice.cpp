@@ -103,6 +103,18 @@ private Q_SLOTS:
         QCOMPARE(test.program().state().MLSCurrentLanguage, QString());
     }
 
+    void anEmptiedCaptionStaysABlankTitle() { // for none at all the toolkit would show the program's name
+        TestProgram test;
+        QByteArray texts = test.read(u"Italiano.lng"_s);
+        const qsizetype key = texts.indexOf("frmMain.Caption=");
+        test.write(u"Italiano.lng"_s,
+                   texts.replace(key, texts.indexOf('\r', key) - key, "frmMain.Caption=\"\""));
+        test.start();
+        QCOMPARE(test.mainWindow()->windowTitle(), u" "_s);
+        test.click(u"ImgLingua(0)"_s);
+        QCOMPARE(test.mainWindow()->windowTitle(), u" "_s);
+    }
+
     void failedStartIsToldInTheChosenLanguage() {
         for (const bool english : {true, false}) {
             TestProgram test;

@@ -10,7 +10,6 @@ ScrollControl::ScrollControl(Container& container, const ControlSpec& spec, Qt::
     : WidgetControl(container, spec, new QScrollBar(orientation)) {
     bar().setAutoFillBackground(true);
     bar().setFocusPolicy(Qt::StrongFocus);
-    bar().setContextMenuPolicy(Qt::NoContextMenu);
     QObject::connect(&bar(), &QScrollBar::sliderMoved, &bar(), [this] { scrolled.raise(); });
     QObject::connect(&bar(), &QScrollBar::valueChanged, &bar(), [this] { changed.raise(); });
 }

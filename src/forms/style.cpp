@@ -5,6 +5,7 @@
 
 #include <QGuiApplication>
 #include <QIcon>
+#include <QLabel>
 #include <QPainter>
 #include <QPolygonF>
 #include <QStyleOption>
@@ -68,6 +69,13 @@ void drawOptionMark(const QStyleOption& option, QPainter& painter) {
 
 ProgramStyle::ProgramStyle() : QProxyStyle(u"Fusion"_s) {}
 
+/// No label guesses what its text is, and no tip, which is a label too: the toolkit would take a tag in a
+/// text that came from a file for a page, and read whatever file or device the page names.
+void ProgramStyle::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    if (auto* const label = qobject_cast<QLabel*>(widget)) label->setTextFormat(Qt::PlainText);
+}
+
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                       QPainter* painter, const QWidget* widget) const {
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
@@ -127,7 +135,8 @@ QIcon ProgramStyle::standardIcon(StandardPixmap which, const QStyleOption* optio
 int ProgramStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                             QStyleHintReturn* answer) const {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons)
-        return 0; // none of the program's buttons in words has one
+        return 0;                                   // none of the program's buttons in words has one
+    if (hint == SH_ScrollBar_ContextMenu) return 0; // it would be the toolkit's, in the toolkit's language
     return QProxyStyle::styleHint(hint, option, widget, answer);
 }
 

@@ -14,6 +14,8 @@ class ProgramStyle : public QProxyStyle {
 public:
     ProgramStyle();
 
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -40,7 +40,7 @@ namespace quarvel {
 /// The names of all that a folder holds, hidden or not, in no order. Fails with NotFound, too.
 [[nodiscard]] Result<QStringList> entryNames(const QString& folder);
 
-/// The regular, not hidden files of a folder, by name without regard to case, and what cannot be told from
+/// The regular, not hidden files of a folder, in the order of sortingKey(), and what cannot be told from
 /// them just now: whoever opens that is told why. Fails with NotFound, too.
 [[nodiscard]] Result<QStringList> listFiles(const QString& folder);
 

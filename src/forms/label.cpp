@@ -4,18 +4,36 @@
 #include "forms/command.h"
 #include "forms/press_key.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPalette>
+#include <QStyle>
+#include <QToolTip>
 
 namespace quarvel {
 
+/// A text for which its place is too small is its own tip; a single line of it ends in an ellipsis.
 class MouseLabel : public QLabel {
 public:
     Label* owner = nullptr;
 
 protected:
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || !isCut()) return QLabel::event(event);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+        return true;
+    }
+    void paintEvent(QPaintEvent* event) override {
+        const bool oneLine = place().height() < 2 * fontMetrics().lineSpacing();
+        if (!oneLine || !isCut()) return QLabel::paintEvent(event);
+        QPainter painter(this);
+        style()->drawItemText(&painter, place(), static_cast<int>(alignment()), palette(), isEnabled(),
+                              fontMetrics().elidedText(text(), Qt::ElideRight, place().width()),
+                              foregroundRole());
+    }
     void mouseMoveEvent(QMouseEvent* event) override {
         owner->mouseMoved.raise();
         QLabel::mouseMoveEvent(event);
@@ -26,6 +44,17 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override {
         if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
             command(*this, owner->clicked);
+    }
+
+private:
+    [[nodiscard]] QRect place() const {
+        return contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+    }
+    [[nodiscard]] bool isCut() const {
+        const QRect needed = fontMetrics().boundingRect(place(), Qt::TextWordWrap, text());
+        // The edges of letters may be missing, a line may not.
+        return needed.width() > place().width() ||
+               needed.height() > place().height() + fontMetrics().lineSpacing() / 2;
     }
 };
 

@@ -5,14 +5,21 @@
 
 #include <QAbstractListModel>
 #include <QFocusEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QListView>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
 #include <algorithm>
 #include <utility>
 
 namespace quarvel {
 namespace {
+
+QString inLines(const QString& first, const QString& second) {
+    return first.isEmpty() || second.isEmpty() ? first + second : first + u'\n' + second;
+}
 
 class RowsModel : public QAbstractListModel {
 public:
@@ -27,7 +34,8 @@ public:
 
     int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : count_; }
     QVariant data(const QModelIndex& index, int role) const override {
-        return role == Qt::DisplayRole && index.isValid() ? QVariant(row_(index.row())) : QVariant();
+        const bool asked = role == Qt::DisplayRole || role == Qt::ToolTipRole;
+        return asked && index.isValid() ? QVariant(row_(index.row())) : QVariant();
     }
 
 private:
@@ -35,23 +43,46 @@ private:
     std::function<QString(int)> row_;
 };
 
+/// Rows as wide as the list, whatever their texts.
+class RowsDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return {1, QStyledItemDelegate::sizeHint(option, index).height()};
+    }
+    /// Pixels that a row's whole text takes.
+    [[nodiscard]] int textWidth(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+        return QStyledItemDelegate::sizeHint(option, index).width();
+    }
+};
+
 class RowsView : public QListView {
 public:
+    RowsView() { setItemDelegate(&delegate_); }
+
     ListBox* owner = nullptr;
     RowsModel rows;
     QString leftToWindow;
+    Mark mark = Mark::FollowsKeys;
 
 protected:
     /// Every pointer action on a row selects it, whatever keys are held; one beside the rows selects nothing
     /// else.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
-                                                         const QEvent* /*event*/) const override {
-        return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+                                                         const QEvent* event) const override {
+        const bool byPointer = event != nullptr && event->isPointerEvent();
+        const bool marks = index.isValid() && (byPointer ? pressedOnRow_ : mark == Mark::FollowsKeys);
+        return marks ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
     }
     void mousePressEvent(QMouseEvent* event) override {
         if (event->button() != Qt::LeftButton) return;
         pressedOnRow_ = indexAt(event->position().toPoint()).isValid();
         QListView::mousePressEvent(event);
+    }
+    void mouseMoveEvent(QMouseEvent* event) override {
+        // What did not begin on a row chooses none when it ends, and so marks none on its way.
+        if (event->buttons() == Qt::NoButton || pressedOnRow_) QListView::mouseMoveEvent(event);
     }
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void mouseReleaseEvent(QMouseEvent* event) override {
@@ -65,7 +96,7 @@ protected:
         const Qt::FocusReason reason = event->reason();
         const bool byKeyboard = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
                                 reason == Qt::OtherFocusReason;
-        if (byKeyboard && !currentIndex().isValid()) owner->select(0);
+        if (byKeyboard && !currentIndex().isValid()) setCurrentIndex(rows.index(0));
         QListView::focusInEvent(event);
     }
     void focusOutEvent(QFocusEvent* event) override {
@@ -92,7 +123,29 @@ protected:
         command(*this, owner->clicked);
     }
 
+    bool viewportEvent(QEvent* event) override {
+        if (event->type() == QEvent::ToolTip && !isCut(indexAt(static_cast<QHelpEvent*>(event)->pos())))
+            return QAbstractScrollArea::viewportEvent(event); // the list's own tip
+        return QListView::viewportEvent(event);
+    }
+    void paintEvent(QPaintEvent* event) override {
+        QListView::paintEvent(event);
+        const QModelIndex place = currentIndex();
+        if (!hasFocus() || !place.isValid() || selectionModel()->isSelected(place)) return;
+        QPainter painter(viewport()); // the keyboard's place, which is not the marked row
+        painter.setPen(QPen(palette().color(QPalette::Text), 1, Qt::DashLine));
+        painter.drawRect(visualRect(place).adjusted(0, 0, -1, -1));
+    }
+
 private:
+    [[nodiscard]] bool isCut(const QModelIndex& index) const {
+        if (!index.isValid()) return false;
+        QStyleOptionViewItem option;
+        initViewItemOption(&option);
+        return delegate_.textWidth(option, index) > visualRect(index).width();
+    }
+
+    RowsDelegate delegate_;
     bool pressedOnRow_ = false;
 };
 
@@ -108,7 +161,11 @@ ListBox::ListBox(Container& container, const ControlSpec& spec)
     view().setSelectionMode(QAbstractItemView::SingleSelection);
     view().setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     view().setTextElideMode(Qt::ElideRight);
+    view().setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    toolTip_ = view().toolTip();
 }
+
+void ListBox::setMark(Mark mark) { static_cast<RowsView&>(widget()).mark = mark; }
 
 void ListBox::leaveToWindow(const QString& characters) {
     static_cast<RowsView&>(widget()).leftToWindow = characters;
@@ -132,8 +189,20 @@ void ListBox::setHint(const QString& text) {
 
 void ListBox::showHint() {
     const QString text = count() == 0 ? hintText_ : QString();
-    hint_.showText(text);
-    widget().setAccessibleDescription(QString(text).remove(u'\u200B'));
+    hint_.showText(text.isEmpty() ? text : inLines(text, remark_));
+    widget().setToolTip(inLines(toolTip_, remark_));
+    widget().setAccessibleDescription(inLines(QString(text).remove(u'\u200B'), remark_));
+}
+
+void ListBox::setRemark(const QString& text) {
+    remark_ = text;
+    showHint();
+}
+
+Setting ListBox::setToolTip(const QString& text) {
+    toolTip_ = text;
+    showHint();
+    return Setting::Done;
 }
 
 int ListBox::count() const { return view().model()->rowCount(); }
@@ -151,8 +220,9 @@ int ListBox::selectedRow() const {
 }
 
 void ListBox::select(int row) {
-    view().selectionModel()->setCurrentIndex(view().model()->index(row, 0),
-                                             QItemSelectionModel::ClearAndSelect);
+    row < 0
+        ? view().clearSelection()
+        : view().selectionModel()->select(view().model()->index(row, 0), QItemSelectionModel::ClearAndSelect);
 }
 
 } // namespace quarvel

@@ -7,13 +7,20 @@
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <optional>
 
 class QListView;
 
 namespace quarvel {
 
+/// What the marked row of a list is.
+enum class Mark {
+    FollowsKeys,  ///< where the user is, by pointer or by keys
+    StaysOnChosen ///< the row last chosen; keys that look around move a frame of their own
+};
+
 /// A list of texts. Rows are made when they come into view, so that a list of 50,000 costs what its window
-/// shows.
+/// shows. A text wider than the list is cut and is its row's tip.
 class ListBox : public WidgetControl {
 public:
     ListBox(Container& container, const ControlSpec& spec);
@@ -26,14 +33,21 @@ public:
     void setHint(const QString& text);
     [[nodiscard]] bool hasHint() const { return !hintText_.isEmpty(); }
 
+    /// What is to be known of the list beside its rows: added to its tip, to its hint, and for assistive
+    /// tools.
+    void setRemark(const QString& text);
+    [[nodiscard]] std::optional<QString> toolTip() const override { return toolTip_; }
+    Setting setToolTip(const QString& text) override;
+
     [[nodiscard]] int count() const;
     [[nodiscard]] QString item(int row) const;
     /// The text of the selected row; empty when none is.
     [[nodiscard]] QString selectedText() const;
     /// The selected row; -1 when none is.
     [[nodiscard]] int selectedRow() const;
-    /// Selects a row, or none for -1, without a click.
+    /// Marks a row, or none for -1, without a click; the keyboard's place stays.
     void select(int row);
+    void setMark(Mark mark);
 
     /// Characters that look for no row but are the window's keys.
     void leaveToWindow(const QString& characters);
@@ -48,6 +62,8 @@ private:
 
     Hint hint_;
     QString hintText_;
+    QString toolTip_; ///< without the remark
+    QString remark_;
 };
 
 } // namespace quarvel

@@ -104,6 +104,9 @@ constexpr std::array messages = {
     OwnMessage{u"0200",
                u"Il testo incollato o trascinato è più lungo dello spazio che c'è nella casella: ne è "
                u"entrato solo l'inizio. Il testo intero è ancora là da dove viene."},
+    // Beside the list of charts.
+    OwnMessage{u"0210", u"In questa cartella ci sono anche PDF o immagini di altro tipo, che l'elenco non "
+                        u"mostra: %1. Le cartine sono immagini GIF."},
     // The main window: the language, a new airport, a missing picture.
     OwnMessage{u"0220", u"La lingua scelta vale da adesso, ma non si può ricordarla per il prossimo avvio."},
     OwnMessage{u"0221",

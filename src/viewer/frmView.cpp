@@ -114,6 +114,8 @@ void frmView::showHints() {
     const QString folder = c->File1.path();
     c->List1.setHint(folder.isEmpty() ? standingText(language_, u"0154"_s)
                                       : standingText(language_, u"0155"_s).arg(breakablePath(folder)));
+    const int others = countOtherFormats(c->File1.files());
+    c->List1.setRemark(others == 0 ? QString() : standingText(language_, u"0210"_s).arg(others));
 }
 
 void frmView::beepIf(ZoomOutcome outcome) {

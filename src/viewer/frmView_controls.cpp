@@ -17,6 +17,7 @@ frmViewControls::frmViewControls(Container& window) : form(window) {
         notes->setEditing(Editing::Locked);
     }
     List1.leaveToWindow(u"+-="_s);
+    List1.setMark(Mark::StaysOnChosen);
     // From top to bottom, as the window reads.
     const std::array<const WidgetControl*, 16> order = {
         &Option1[0], &Option1[1], &Option1[2], &List1,    &Text2,    &Text1,    &Text3,    &Command2,

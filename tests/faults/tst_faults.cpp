@@ -315,6 +315,9 @@ private Q_SLOTS:
             TestProgram::clickRow(test->mainWindow(), u"lstWords"_s, 0);
             QVERIFY(TestProgram::control(test->mainWindow(), u"Frame4"_s)->isVisible());
             QVERIFY(test->boxes.shown.isEmpty());
+            ::rename((folder + "/Aeroporto/" + stored + ".txt").constData(),
+                     (archive + "LIPK.txt").constData());
+            ::rename(folder.constData(), (archive + "LIPK").constData()); // what the toolkit could remove
         }
     }
 

@@ -1,15 +1,25 @@
 #include "forms/list_box.h"
+#include "forms/look.h"
 #include "forms/text_box.h"
 #include "text/key_filter.h"
 
+#include <QApplication>
 #include <QClipboard>
-#include <QGuiApplication>
+#include <QContextMenuEvent>
+#include <QFile>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
+#include <QToolTip>
 #include <QUrl>
+#include <sys/stat.h>
 #include <tuple>
 
 using namespace quarvel;
@@ -93,6 +103,48 @@ class FormsTest : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
+    void aTextIsNeverAPageThatNamesFiles() {
+        applyProgramLook(*qApp);
+        QTemporaryDir folder;
+        const QString pipe = folder.filePath(u"pipe"_s);
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        Inside window;
+        window.show();
+        for (const QString& source : {u":/pictures/box_error.png"_s, pipe, u"/dev/zero"_s}) {
+            const QString text = u"<img src='%1' height=500>"_s.arg(source);
+            ListBox list(window, {.name = "list", .place = {0, 0, 1500, 1500}});
+            list.setToolTip(text);
+            list.setHint(text);
+            QHelpEvent help(QEvent::ToolTip, {5, 5}, window.mapToGlobal(QPoint(5, 5)));
+            QCoreApplication::sendEvent(&list.widget(), &help);
+            QMessageBox box(&window);
+            box.setText(text);
+            box.setInformativeText(text);
+            box.show();
+            for (const QWidget* shown : QApplication::topLevelWidgets())
+                QVERIFY2(!shown->isVisible() || shown->height() < 400, shown->metaObject()->className());
+            QCOMPARE(QToolTip::text(), text);
+        }
+    }
+
+    void scrollBarsHaveNoMenuOfTheToolkit() {
+        applyProgramLook(*qApp);
+        Inside window;
+        MultiLineTextBox box(window, {.name = "box", .place = {0, 0, 3000, 1500}});
+        window.show();
+        QScrollBar* const bar = static_cast<QPlainTextEdit&>(box.widget()).verticalScrollBar();
+        bool opened = false;
+        QTimer::singleShot(0, bar, [&opened] {
+            QWidget* const menu = QApplication::activePopupWidget();
+            opened = menu != nullptr && menu->close();
+        });
+        QTest::mouseClick(bar, Qt::RightButton);
+        QContextMenuEvent request(QContextMenuEvent::Mouse, {5, 5}, bar->mapToGlobal(QPoint(5, 5)));
+        QCoreApplication::sendEvent(bar, &request);
+        QCoreApplication::processEvents();
+        QVERIFY(!opened);
+    }
+
     void longerStoredTextStaysWholeAndMayOnlyShrink() {
         Short window;
         window.box.setText(u"09 LEFT"_s);

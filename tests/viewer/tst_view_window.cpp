@@ -5,10 +5,12 @@
 #include <QClipboard>
 #include <QDir>
 #include <QFile>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QListView>
 #include <QPlainTextEdit>
 #include <QScrollBar>
+#include <QToolTip>
 
 using namespace quarvel;
 using namespace Qt::StringLiterals;
@@ -58,9 +60,10 @@ private Q_SLOTS:
             return QString();
         };
         QVERIFY(hint(u"List1"_s).contains(u"SID, STAR"_s) && hint(u"Picture1"_s).contains(u"elenco"_s));
-        QVERIFY(QFile::remove(test.path(u"aeroporti/LIRF/Star/arrivo.gif"_s)));
+        const QString folder = test.path(u"aeroporti/LIRF/Star"_s);
+        QVERIFY(QFile::rename(folder + u"/arrivo.gif"_s, folder + u"/arrivo.png"_s));
         test.click(u"Option1(1)"_s);
-        QVERIFY(hint(u"List1"_s).contains(test.path(u"aeroporti/LIRF/Star"_s)));
+        QVERIFY(hint(u"List1"_s).contains(folder) && hint(u"List1"_s).contains(u"non mostra: 1."_s));
         test.choose(u"Option1(0)"_s, 1);
         QCOMPARE(hint(u"List1"_s) + hint(u"Picture1"_s), QString());
         QCOMPARE(test.control(u"Picture1"_s)->accessibleName(), u"KENN1"_s);
@@ -151,6 +154,8 @@ private Q_SLOTS:
         test.clickRow(u"List1"_s, 1);
         test.clickRow(u"List1"_s, 2);
         QCOMPARE(test.notes(u"Text2"_s), u"VIA ELB"_s);
+        rename("zet\xE0 \x80.gif", "zeta.gif"); // what the toolkit could not remove
+        rename("ROTTA_ZET\xC0 \x80.txt", "ROTTA_KENN1.txt");
     }
 
     void savingNeedsAChartOfTheListAndWhatCanBeStored() {
@@ -192,16 +197,68 @@ private Q_SLOTS:
         Viewer test;
         test.choose(u"Option1(0)"_s, 1);
         auto* list = test.control<QListView>(u"List1"_s);
-        const QPoint other = list->visualRect(list->model()->index(2, 0)).center();
-        QTest::mouseClick(list->viewport(), Qt::RightButton, {}, other);
-        QCOMPARE(list->currentIndex().row(), 1);
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, other);
-        QCOMPARE(test.program().viewWindow().ChartName, u"ZETA"_s);
-        // Arrow keys only look around: leaving the list shows the chosen chart again.
+        const auto placeOf = [list](int row) {
+            return list->visualRect(list->model()->index(row, 0)).center();
+        };
+        const auto marked = [list] {
+            const QModelIndexList rows = list->selectionModel()->selectedIndexes();
+            return rows.isEmpty() ? QString() : rows.first().data().toString();
+        };
+        const auto chosen = [&test] { return test.program().viewWindow().ChartName; };
+        QTest::mouseClick(list->viewport(), Qt::RightButton, {}, placeOf(2));
+        QCOMPARE(marked(), u"KENN1"_s);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier, placeOf(2));
+        QCOMPARE(chosen(), u"ZETA"_s);
+        // Keys only look around, and so does a drag from where there is no row.
         list->setFocus();
-        QTest::keyClick(list, Qt::Key_Up);
-        test.control(u"Text2"_s)->setFocus();
-        QCOMPARE(list->currentIndex().row(), 2);
+        for (const Qt::Key key : {Qt::Key_Up, Qt::Key_Home, Qt::Key_K}) {
+            QTest::keyClick(list, key);
+            QCOMPARE(marked(), u"ZETA"_s);
+        }
+        const QPoint below(20, list->viewport()->height() - 5);
+        QTest::mousePress(list->viewport(), Qt::LeftButton, {}, below);
+        QTest::mouseMove(list->viewport(), placeOf(0));
+        QTest::mouseRelease(list->viewport(), Qt::LeftButton, {}, placeOf(0));
+        QCOMPARE(marked(), u"ZETA"_s);
+        QTest::keyClick(list, Qt::Key_Return);
+        QCOMPARE(chosen() + marked(), u"KENN1KENN1"_s);
+        QVERIFY(QFile::remove(test.path(u"aeroporti/LIRF/Sid/zeta.gif"_s)));
+        QTest::keyClick(list, Qt::Key_Down);
+        QTest::keyClick(list, Qt::Key_Return);
+        QVERIFY(test.said().contains(u"ZETA.gif"_s));
+        QCOMPARE(chosen() + marked(), u"KENN1KENN1"_s);
+        QCOMPARE(list->currentIndex().row(), 2); // from where the keys go on
+        // Until a chart of the new list is chosen none of it is marked, be it found by the Tab key.
+        test.click(u"Option1(2)"_s);
+        list->setFocus(Qt::TabFocusReason);
+        QCOMPARE(marked(), QString());
+        QTest::keyClick(list, Qt::Key_Space);
+        QCOMPARE(marked(), u"ILS16"_s);
+    }
+
+    void namesTooLongForTheListAreTheirTips() {
+        Viewer test;
+        const QString name = u"PARTENZA "_s.repeated(9) + u"<B>1"_s;
+        test.addChart(u"aeroporti/LIRF/Star/%1.gif"_s.arg(name), {20, 20});
+        test.click(u"Option1(1)"_s);
+        auto* list = test.control<QListView>(u"List1"_s);
+        const auto tip = [&](int row) {
+            QToolTip::hideText();
+            const QPoint place = list->visualRect(list->model()->index(row, 0)).center();
+            QHelpEvent help(QEvent::ToolTip, place, list->viewport()->mapToGlobal(place));
+            QCoreApplication::sendEvent(list->viewport(), &help);
+            return help.isAccepted() ? QToolTip::text() : QString();
+        };
+        QCOMPARE(tip(1), name);
+        QCOMPARE(tip(0), QString());
+        // What the list passes over is told where its user looks.
+        for (const auto& file : {u"A.PDF"_s, u"b.jpeg"_s, u"note.txt"_s})
+            test.write(u"aeroporti/LIRF/Star/"_s + file, "x");
+        test.click(u"Option1(2)"_s);
+        QCOMPARE(tip(0), QString());
+        test.click(u"Option1(1)"_s);
+        QVERIFY(tip(0).contains(u"non mostra: 2."_s) && list->accessibleDescription() == tip(0));
+        QCOMPARE(tip(1), name);
     }
 
     void activationClearsTheFamilyOnly() {

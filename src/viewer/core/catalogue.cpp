@@ -5,6 +5,9 @@
 #include "text/strings.h"
 
 #include <QChar>
+#include <QStringView>
+#include <algorithm>
+#include <array>
 
 namespace quarvel {
 
@@ -46,6 +49,16 @@ QStringList chartNames(const QStringList& files) {
         if (GetExtension(name) == "GIF"_L1) names.append(StripExtension(name));
     }
     return names;
+}
+
+int countOtherFormats(const QStringList& files) {
+    constexpr std::array formats = {u".pdf",  u".png",  u".jpg", u".jpeg", u".bmp",  u".tif",
+                                    u".tiff", u".webp", u".svg", u".djvu", u".heic", u".avif"};
+    return static_cast<int>(std::count_if(files.cbegin(), files.cend(), [&formats](const QString& file) {
+        return std::any_of(formats.begin(), formats.end(), [&file](const char16_t* format) {
+            return file.endsWith(QStringView(format), Qt::CaseInsensitive);
+        });
+    }));
 }
 
 QString chartFileName(const QString& chartName) { return trimBlanks(chartName) + ".gif"_L1; }

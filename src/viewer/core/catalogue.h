@@ -25,6 +25,9 @@ enum class Family : qint16 { None = 0, Sid = 1, Star = 2, Approach = 3 };
 /// characters are GIF, without its last four. Nothing else is filtered.
 [[nodiscard]] QStringList chartNames(const QStringList& files);
 
+/// How many of a folder's files may well be charts that no list shows: of a format other than GIF.
+[[nodiscard]] int countOtherFormats(const QStringList& files);
+
 /// The file name of a chosen chart (`ChartFile`): without blanks at its ends, followed by ".gif".
 [[nodiscard]] QString chartFileName(const QString& chartName);
 

@@ -131,17 +131,14 @@ private Q_SLOTS:
         applyProgramLook(*qApp);
         Inside window;
         MultiLineTextBox box(window, {.name = "box", .place = {0, 0, 3000, 1500}});
-        window.show();
         QScrollBar* const bar = static_cast<QPlainTextEdit&>(box.widget()).verticalScrollBar();
         bool opened = false;
         QTimer::singleShot(0, bar, [&opened] {
             QWidget* const menu = QApplication::activePopupWidget();
             opened = menu != nullptr && menu->close();
         });
-        QTest::mouseClick(bar, Qt::RightButton);
         QContextMenuEvent request(QContextMenuEvent::Mouse, {5, 5}, bar->mapToGlobal(QPoint(5, 5)));
         QCoreApplication::sendEvent(bar, &request);
-        QCoreApplication::processEvents();
         QVERIFY(!opened);
     }
 

@@ -9,7 +9,8 @@
 
 namespace quarvel {
 
-Result<Written> saveAirport(const ArchivePaths& paths, const QString& name, const AirportRecord& record) {
+Result<Written> saveAirport(const ArchivePaths& paths, const QString& name, const AirportRecord& record,
+                            const BeforeReplacing& beforeReplacing) {
     if (const Result<void> allowed = checkAirportName(name, NameUse::Existing); !allowed)
         return allowed.failure();
     // As the record will give it back: by that the text is looked for.
@@ -25,7 +26,7 @@ Result<Written> saveAirport(const ArchivePaths& paths, const QString& name, cons
     const Result<AirportFolders> folders = createAirportFolders(paths, name);
     if (!folders) return folders.failure();
     Result<Written> written =
-        writeWholeFiles({{dataFile.value(), bytes.value()}, {presenterText.value(), {}}});
+        writeWholeFiles({{dataFile.value(), bytes.value()}, {presenterText.value(), {}}}, beforeReplacing);
     if (!written && folders.value() == AirportFolders::Made)
         removeEmptyAirportFolders(QFileInfo(presenterText.value()).path());
     return written;

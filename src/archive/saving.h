@@ -14,6 +14,7 @@ namespace quarvel {
 /// Fails with BadName (the name, or an ICAO code that no file can be named after), and with the faults of
 /// createAirportFolders, recordBytes and writeWholeFiles.
 [[nodiscard]] Result<Written> saveAirport(const ArchivePaths& paths, const QString& name,
-                                          const AirportRecord& record);
+                                          const AirportRecord& record,
+                                          const BeforeReplacing& beforeReplacing = {});
 
 } // namespace quarvel

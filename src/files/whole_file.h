@@ -21,9 +21,9 @@ struct FileContent {
     QByteArray bytes;
 };
 
-/// Is told the path of a file that is about to be replaced, links followed, while nobody else saves in its
-/// folder: its old self can still be kept elsewhere. What becomes of that does not stop the save.
-using BeforeReplacing = std::function<void(const QString& path)>;
+/// Is told of a file that is about to be replaced and what it will be, while nobody else saves in its folder:
+/// its old self can still be kept elsewhere. What becomes of that does not stop the save.
+using BeforeReplacing = std::function<void(const FileContent& next)>;
 
 /// What a save that succeeded has to tell all the same.
 struct Written {

@@ -65,16 +65,17 @@ public:
         return files_.back().make(content.bytes);
     }
 
-    Result<Written> takeNames(const BeforeReplacing& beforeReplacing) {
+    Result<Written> takeNames(const std::vector<FileContent>& contents,
+                              const BeforeReplacing& beforeReplacing) {
         QStringList folders;
         for (const auto& [folder, staging] : stagings_) folders.append(folder);
         const FolderLocks locks(folders);
         if (!locks.held()) return Failure{Fault::WriteFailed, folders.first(), {}};
         if (const Result<void> kept = keepOld(); !kept) return kept.failure();
         Written written;
-        for (const StagedFile& file : files_) {
-            if (file.replaces() && beforeReplacing) beforeReplacing(file.place());
-            if (file.hasOtherNames()) written.separated.append(file.known());
+        for (std::size_t i = 0; i < files_.size(); ++i) {
+            if (files_[i].replaces() && beforeReplacing) beforeReplacing(contents[i]);
+            if (files_[i].hasOtherNames()) written.separated.append(files_[i].known());
         }
         for (StagedFile& file : files_)
             if (const Result<void> taken = file.takeName(); !taken) return putBack(taken.failure());
@@ -126,7 +127,7 @@ Result<Written> writeWholeFiles(const std::vector<FileContent>& files,
     Writing writing;
     for (const FileContent& content : files)
         if (const Result<void> made = writing.make(content); !made) return made.failure();
-    return writing.takeNames(beforeReplacing);
+    return writing.takeNames(files, beforeReplacing);
 }
 
 Result<void> writeNewFile(const QString& path, const QByteArray& bytes) {

@@ -26,8 +26,10 @@ bool isLanguageName(const QString& name) {
 
 } // namespace
 
-modLanguageSupport::modLanguageSupport(QString programFolder, QString& currentLanguage)
-    : programFolder_(std::move(programFolder)), MLSCurrentLanguage(currentLanguage) {}
+modLanguageSupport::modLanguageSupport(QString programFolder, QString& currentLanguage,
+                                       BeforeReplacing beforeReplacing)
+    : programFolder_(std::move(programFolder)), MLSCurrentLanguage(currentLanguage),
+      beforeReplacing_(std::move(beforeReplacing)) {}
 
 QString modLanguageSupport::MLSGetString(const QString& number) {
     if (MLSCurrentLanguage.isEmpty()) {
@@ -64,7 +66,7 @@ Result<QString> modLanguageSupport::settingLanguage() const {
 
 Result<Written> modLanguageSupport::writeSettingLanguage(const QString& language) const {
     return settingFile().then([&](const QString& file) {
-        return WriteIniString(file, u"Language"_s, u"CurrentLanguage"_s, language);
+        return WriteIniString(file, u"Language"_s, u"CurrentLanguage"_s, language, beforeReplacing_);
     });
 }
 

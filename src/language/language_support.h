@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/result.h"
 #include "files/whole_file.h"
 #include "forms/core/control.h"
 
@@ -14,7 +15,8 @@ class modLanguageSupport {
 public:
     /// `programFolder` holds the language files and LangSetting.ini; `currentLanguage` is the process-wide
     /// MLSCurrentLanguage, which must outlive this object.
-    modLanguageSupport(QString programFolder, QString& currentLanguage);
+    /// `beforeReplacing` is told when the setting file is about to be replaced.
+    modLanguageSupport(QString programFolder, QString& currentLanguage, BeforeReplacing beforeReplacing = {});
 
     [[nodiscard]] bool hasLanguage() const { return !MLSCurrentLanguage.isEmpty(); }
 
@@ -47,6 +49,7 @@ private:
 
     QString programFolder_;
     QString& MLSCurrentLanguage;
+    BeforeReplacing beforeReplacing_;
 };
 
 } // namespace quarvel

@@ -205,7 +205,7 @@ Result<QString> ReadIniString(const QString& file, const QString& section, const
 }
 
 Result<Written> WriteIniString(const QString& file, const QString& section, const QString& key,
-                               const QString& value) {
+                               const QString& value, const BeforeReplacing& beforeReplacing) {
     const Result<QByteArray> before = readProfile(file);
     if (!before && before.failure().fault != Fault::NotFound) return before.failure();
     const QByteArray all = before ? utf16AsUtf8(before.value()) : QByteArray();
@@ -221,7 +221,7 @@ Result<Written> WriteIniString(const QString& file, const QString& section, cons
     // Not what would be read back otherwise, or not at all.
     if (after.size() > largestReadBytes) return Failure{Fault::TooLarge, file, {}};
     if (valueIn(after, section, key) != value) return Failure{Fault::Damaged, file, {}};
-    return writeWholeFile(file, after);
+    return writeWholeFile(file, after, beforeReplacing);
 }
 
 } // namespace quarvel

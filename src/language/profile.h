@@ -26,7 +26,8 @@ inline constexpr qsizetype longestProfileValue = 511;
 /// is its old or its new self. What could not be read back as it is, is not written. Fails with the faults of
 /// readProfile and writeWholeFile, with NotInCodePage, TooLarge or Damaged.
 [[nodiscard]] Result<Written> WriteIniString(const QString& file, const QString& section, const QString& key,
-                                             const QString& value);
+                                             const QString& value,
+                                             const BeforeReplacing& beforeReplacing = {});
 
 /// The value of a key in a profile's bytes, by the rules of a profile: names without regard to letter case,
 /// blanks around key and value ignored, one matching pair of quotes dropped, the first section of the name

@@ -100,6 +100,8 @@ constexpr std::array messages = {
                u"parte, e al suo posto ne comincia uno nuovo. I tuoi aeroporti sono come prima.\n%1"},
     OwnMessage{u"0181", u"Il programma non può conservare ciò che ricorda per sé, come le bozze: lo ricorda "
                         u"solo finché resta aperto."},
+    OwnMessage{u"0182", u"La versione di prima di un file che viene sostituito non può essere conservata. Il "
+                        u"salvataggio prosegue lo stesso."},
     // What is typed and not saved yet.
     OwnMessage{u"0200",
                u"Il testo incollato o trascinato è più lungo dello spazio che c'è nella casella: ne è "

@@ -31,6 +31,7 @@ enum class Task {
     PrepareProgramFolder = 147, ///< at the start, from what the program was installed with
     UseState = 180,             ///< a file of what the program remembers; it was set aside
     KeepState = 181,            ///< the same, to be written
+    KeepVersion = 182,          ///< the old self of a file that is being saved
     PasteText = 200,            ///< more was pasted or dropped than the box takes
     RememberLanguage = 220,     ///< the chosen language, in the setting file
     ShowChartInPart = 240,      ///< a chart of which rows are missing

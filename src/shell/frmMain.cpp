@@ -15,7 +15,8 @@ constexpr FormDesign design{.name = "frmMain",
 
 frmMain::frmMain(const frmMainNeeds& needs)
     : FormOf(design, needs.windows), state_(needs.state), paths_(needs.paths), language_(needs.language),
-      prompts_(needs.prompts), services_(needs.services), presenter_(needs.presenter) {}
+      prompts_(needs.prompts), services_(needs.services), beforeReplacing_(needs.beforeReplacing),
+      presenter_(needs.presenter) {}
 
 void frmMain::wire() {
     c->txtNomeAeroporto.events.keyPress.calls(this, &frmMain::txtNomeAeroporto_KeyPress);

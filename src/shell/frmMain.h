@@ -27,6 +27,7 @@ struct frmMainNeeds {
     const Services& services;
     Presenter& presenter;
     Windows& windows;
+    const BeforeReplacing& beforeReplacing; ///< of every save of the user's files
 };
 
 /// The main window: finds and opens airports, shows and takes their data, and leads to everything else.
@@ -121,6 +122,7 @@ private:
     modLanguageSupport& language_;
     Prompts& prompts_;
     const Services& services_;
+    const BeforeReplacing& beforeReplacing_;
     Presenter& presenter_;
 
     ArchiveSearch search_;

@@ -73,7 +73,7 @@ void frmMain::cmdSave_Click() {
         return;
     }
     const AirportRecord record = typedRecord();
-    const Result<Written> saved = saveAirport(paths_, c->txtNomeAeroporto.text(), record);
+    const Result<Written> saved = saveAirport(paths_, c->txtNomeAeroporto.text(), record, beforeReplacing_);
     if (!saved) {
         prompts_.tell(*this, Task::SaveAirport, saved.failure());
         backToEditing();

@@ -23,10 +23,12 @@ Program::Program(const ProgramFolder& folder, const Services& services, Presente
     : paths_(folder.path),
       store_(storeBeside(
           folder, [this](StateTrouble trouble, const Failure& failure) { tellLater(trouble, failure); })),
-      language_(folder.path, state_.MLSCurrentLanguage), prompts_(language_, services.messageBoxes),
-      toolkitTexts_(language_), services_(services),
-      main_({state_, paths_, language_, prompts_, services_, presenter, *this}),
-      view_({state_, paths_, language_, prompts_, services_, *this}),
+      versions_(folder.path, findStateFolder(folder)),
+      beforeReplacing_([this](const FileContent& next) { keepOld(next); }),
+      language_(folder.path, state_.MLSCurrentLanguage, beforeReplacing_),
+      prompts_(language_, services.messageBoxes), toolkitTexts_(language_), services_(services),
+      main_({state_, paths_, language_, prompts_, services_, presenter, *this, beforeReplacing_}),
+      view_({state_, paths_, language_, prompts_, services_, *this, beforeReplacing_}),
       companion_({state_, paths_, language_, prompts_, services_, *this}) {
     QCoreApplication::installTranslator(&toolkitTexts_);
 }
@@ -48,6 +50,15 @@ void Program::tellLater(StateTrouble trouble, const Failure& failure) {
     QTimer::singleShot(0, &life_, [this, trouble, failure] {
         if (trouble == StateTrouble::SetAside) return prompts_.tell(inFront(), Task::UseState, failure.path);
         prompts_.tell(inFront(), Task::KeepState, failure);
+    });
+}
+
+void Program::keepOld(const FileContent& next) {
+    const Result<void> kept = versions_.keep(next);
+    if (kept || toldOfVersions_) return;
+    toldOfVersions_ = true;
+    QTimer::singleShot(0, &life_, [this, failure = kept.failure()] {
+        prompts_.tell(inFront(), Task::KeepVersion, failure);
     });
 }
 

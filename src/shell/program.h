@@ -9,6 +9,7 @@
 #include "presenter/presenter.h"
 #include "prompts/prompts.h"
 #include "prompts/toolkit_texts.h"
+#include "safekeeping/earlier_versions.h"
 #include "shell/frmMain.h"
 #include "state/process_state.h"
 #include "viewer/frmView.h"
@@ -46,10 +47,14 @@ private:
     [[nodiscard]] Form& window(WindowName name);
     [[nodiscard]] Form& inFront();
     void tellLater(StateTrouble trouble, const Failure& failure);
+    void keepOld(const FileContent& next);
 
     ProcessState state_;
     ArchivePaths paths_;
     StateStore store_;
+    EarlierVersions versions_;
+    bool toldOfVersions_ = false;
+    BeforeReplacing beforeReplacing_;
     modLanguageSupport language_;
     Prompts prompts_;
     ToolkitTexts toolkitTexts_;

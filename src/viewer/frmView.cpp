@@ -26,7 +26,7 @@ constexpr FormDesign design{.name = "frmView",
 
 frmView::frmView(const frmViewNeeds& needs)
     : FormOf(design, needs.windows), state_(needs.state), paths_(needs.paths), language_(needs.language),
-      prompts_(needs.prompts), services_(needs.services) {}
+      prompts_(needs.prompts), services_(needs.services), beforeReplacing_(needs.beforeReplacing) {}
 
 void frmView::wire() {
     c->Option1.forEach([this](int index, OptionButton& option) {

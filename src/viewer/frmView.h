@@ -26,6 +26,7 @@ struct frmViewNeeds {
     Prompts& prompts;
     const Services& services;
     Windows& windows;
+    const BeforeReplacing& beforeReplacing; ///< of every save of the user's files
 };
 
 /// The chart viewer: the charts of the current airport by family, with their notes, zoomed and panned.
@@ -91,6 +92,7 @@ private:
     modLanguageSupport& language_;
     Prompts& prompts_;
     const Services& services_;
+    const BeforeReplacing& beforeReplacing_;
 
     std::optional<ChartFrame> chart_; ///< while the window is loaded
     int chosenOption_ = -1;           ///< of the list on show; -1 once the options have been cleared

@@ -121,7 +121,7 @@ void frmView::cmdSave_Click() {
     if (answer != Answer::Ok || c == nullptr) return;
     std::vector<NoteText> texts;
     for (const NoteKind& kind : notesOf(FamilyMode)) texts.push_back({kind.box, boxOf(kind.box).text()});
-    const Result<Written> saved = saveNotes(c->File1.path(), FamilyMode, ChartName, texts);
+    const Result<Written> saved = saveNotes(c->File1.path(), FamilyMode, ChartName, texts, beforeReplacing_);
     saved ? prompts_.tellOf(*this, saved.value()) : prompts_.tell(*this, Task::SaveNotes, saved.failure());
 }
 

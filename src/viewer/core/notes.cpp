@@ -91,7 +91,7 @@ Result<QString> loadNote(const QString& folder, const NoteKind& kind, const QStr
 }
 
 Result<Written> saveNotes(const QString& folder, Family family, const QString& chartName,
-                          const std::vector<NoteText>& texts) {
+                          const std::vector<NoteText>& texts, const BeforeReplacing& beforeReplacing) {
     std::vector<FileContent> files;
     for (const NoteKind& kind : notesOf(family)) {
         const auto note = std::find_if(texts.cbegin(), texts.cend(),
@@ -103,7 +103,7 @@ Result<Written> saveNotes(const QString& folder, Family family, const QString& c
         if (!bytes) return bytes.failure();
         files.push_back({path, bytes.take()});
     }
-    return writeWholeFiles(files);
+    return writeWholeFiles(files, beforeReplacing);
 }
 
 } // namespace quarvel

@@ -55,6 +55,7 @@ struct NoteText {
 /// changes, so that a character that cannot be stored or a full disk leaves every note as it was. Fails with
 /// the faults of noteBytes and writeWholeFiles.
 [[nodiscard]] Result<Written> saveNotes(const QString& folder, Family family, const QString& chartName,
-                                        const std::vector<NoteText>& texts);
+                                        const std::vector<NoteText>& texts,
+                                        const BeforeReplacing& beforeReplacing = {});
 
 } // namespace quarvel

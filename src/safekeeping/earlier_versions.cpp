@@ -1,0 +1,90 @@
+#include "safekeeping/earlier_versions.h"
+
+#include "files/folder_tree.h"
+#include "files/lookup.h"
+#include "files/make_folder.h"
+#include "safekeeping/version_name.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace quarvel {
+namespace {
+
+QString folderPart(const QString& path) { return path.section(u'/', 0, -2); }
+QString namePart(const QString& path) { return path.section(u'/', -1); }
+
+/// What a kind's part of the store holds, but for what is no version.
+std::vector<StoredVersion> storedIn(const QString& folder) {
+    std::vector<StoredVersion> stored;
+    for (const TreeFile& file : filesBelow(folder))
+        if (versionTime(namePart(file.path)).isValid())
+            stored.push_back({folderPart(file.path), namePart(file.path), file.bytes});
+    return stored;
+}
+
+} // namespace
+
+EarlierVersions::EarlierVersions(QString programFolder, const StateFolder& state)
+    : programFolder_(std::move(programFolder)), store_(state.path + u"/versioni"_s), access_(state.access) {}
+
+Result<QString> EarlierVersions::folderOf(const QString& file) const {
+    return resolvePath(store_, limitsFor(file).folder + u'/' + file);
+}
+
+Result<void> EarlierVersions::keep(const FileContent& next) const {
+    if (!next.path.startsWith(programFolder_ + u'/')) return Failure{Fault::BadName, next.path, {}};
+    const QString file = next.path.mid(programFolder_.size() + 1);
+    const VersionLimits& limits = limitsFor(file);
+    const Result<QByteArray> present = readWholeFile(next.path, limits.maxBytes);
+    if (!present) return present.failure();
+    if (present.value() == next.bytes) return {};
+
+    const std::vector<EarlierVersion> versions = versionsOf(file);
+    QDateTime now = QDateTime::currentDateTimeUtc();
+    if (!versions.empty()) {
+        const EarlierVersion& newest = versions.front();
+        const Result<QByteArray> bytes = readWholeFile(newest.path, limits.maxBytes);
+        if (bytes && bytes.value() == present.value()) return {};
+        now = std::max(now, newest.kept.addMSecs(1)); // after it, be the clock set back
+    }
+    const Result<QString> folder = folderOf(file);
+    if (!folder) return folder.failure();
+    if (Result<void> made = makeFolder(folder.value(), access_); !made) return made;
+    const Result<Written> kept =
+        writeWholeFile(folder.value() + u'/' + versionName(now, file), present.value());
+    dropBeyondLimits(limits);
+    return kept ? Result<void>() : kept.failure();
+}
+
+QStringList EarlierVersions::files() const {
+    QStringList files;
+    for (const VersionLimits& limits : allLimits())
+        for (const StoredVersion& version : storedIn(store_ + u'/' + limits.folder))
+            files.append(version.folder);
+    files.removeDuplicates();
+    files.sort(Qt::CaseInsensitive);
+    return files;
+}
+
+std::vector<EarlierVersion> EarlierVersions::versionsOf(const QString& file) const {
+    std::vector<EarlierVersion> versions;
+    const QString folder = folderOf(file).valueOr({});
+    if (folder.isEmpty()) return versions;
+    for (const TreeFile& version : filesBelow(folder))
+        if (const QDateTime kept = versionTime(version.path); kept.isValid())
+            versions.push_back({kept, folder + u'/' + version.path});
+    std::sort(versions.begin(), versions.end(),
+              [](const EarlierVersion& left, const EarlierVersion& right) { return left.path > right.path; });
+    return versions;
+}
+
+void EarlierVersions::dropBeyondLimits(const VersionLimits& limits) const {
+    const QString top = store_ + u'/' + limits.folder;
+    for (const StoredVersion& version : beyondLimits(storedIn(top), limits))
+        removeWithEmptyFolders(top + u'/' + version.folder + u'/' + version.name, top);
+}
+
+} // namespace quarvel

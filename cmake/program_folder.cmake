@@ -2,7 +2,7 @@
 # beside it. Files that the user may have changed there since (settings, archive) are laid down only once.
 
 add_executable(quarvel src/main.cpp)
-target_link_libraries(quarvel PRIVATE quarvel_shell)
+target_link_libraries(quarvel PRIVATE quarvel_shell quarvel_cli)
 # In front of all other libraries: most names that the loader looks for at a start are found in these, and every library
 # before them is asked in vain some ten thousand times.
 target_link_options(quarvel PRIVATE

@@ -1,3 +1,4 @@
+#include "cli/run.h"
 #include "files/whole_file.h"
 #include "forms/look.h"
 #include "install/program_folder.h"
@@ -13,12 +14,31 @@
 #include "shell/program.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QSessionManager>
 #include <cstdlib>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Carries out what the words behind the program's name ask for; none when they ask for the windows.
+std::optional<int> runCommandLine(int argc, char** argv) {
+    QStringList words;
+    for (int i = 1; i < argc; ++i) words.append(QFile::decodeName(argv[i]));
+    const quarvel::CommandLine command = quarvel::readCommandLine(words);
+    if (command.deed == quarvel::CommandLine::Deed::Start) return std::nullopt;
+    int nameOnly = 1;
+    const QCoreApplication application(nameOnly, argv);
+    return quarvel::runCommand(command, quarvel::findProgramFolder(QCoreApplication::applicationDirPath()));
+}
+
+} // namespace
+
 int main(int argc, char** argv) {
     quarvel::outliveSizeLimits();
+    if (const std::optional<int> status = runCommandLine(argc, argv)) return *status;
     quarvel::chooseWindowSystem();
     quarvel::settleEnvironment();
     quarvel::Beside fontList(quarvel::readFontList);
@@ -32,6 +52,10 @@ int main(int argc, char** argv) {
     const quarvel::Beside faces(quarvel::findFaces);
     QApplication::setApplicationName(u"Quarvel"_s);
     QApplication::setDesktopFileName(u"quarvel"_s);
+    // The toolkit's own command to start again at the next login holds an option, which is refused.
+    QObject::connect(&*application, &QGuiApplication::saveStateRequest, [](QSessionManager& session) {
+        session.setRestartCommand({QApplication::applicationFilePath()});
+    });
     QApplication::setQuitOnLastWindowClosed(false); // windows that wait behind others are only hidden
     quarvel::applyProgramLook(*application);
 

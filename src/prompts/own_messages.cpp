@@ -102,6 +102,18 @@ constexpr std::array messages = {
                         u"solo finché resta aperto."},
     OwnMessage{u"0182", u"La versione di prima di un file che viene sostituito non può essere conservata. Il "
                         u"salvataggio prosegue lo stesso."},
+    // What the command line says.
+    OwnMessage{
+        u"0183",
+        u"Uso: quarvel [COMANDO]\n\nSenza comando si aprono le finestre.\n  versions [AEROPORTO]  elenca le "
+        u"versioni di prima dei suoi file, o di tutti\n  bring-back FILE N     riporta la versione N di un "
+        u"file dell'elenco;\n                        quella di adesso viene conservata\n  --help             "
+        u"   questo testo\n  --version             il numero del programma"},
+    OwnMessage{u"0184", u"Questo non va sulla riga di comando: «%1».\n«quarvel --help» dice che cosa ci va."},
+    OwnMessage{u"0185", u"Non ci sono versioni di prima per «%1»."},
+    OwnMessage{u"0186", u"Non c'è una versione %2 di «%1». «quarvel versions» elenca quelle che ci sono."},
+    OwnMessage{u"0187", u"«%1» è di nuovo com'era fino al %2. Il contenuto di prima è tra le versioni."},
+    OwnMessage{u"0188", u"La versione non è stata riportata: il file è rimasto com'era."},
     // What is typed and not saved yet.
     OwnMessage{u"0200",
                u"Il testo incollato o trascinato è più lungo dello spazio che c'è nella casella: ne è "
@@ -130,6 +142,31 @@ constexpr std::array messages = {
                         u"se sarà stampata. Prima di riprovare guarda nella coda della stampante."},
 };
 
+QString numberOf(Fault fault) {
+    switch (fault) {
+    case Fault::NotFound: return u"0130"_s;
+    case Fault::NotRegular: return u"0131"_s;
+    case Fault::Unreadable: return u"0132"_s;
+    case Fault::Unwritable: return u"0133"_s;
+    case Fault::DiskFull: return u"0134"_s;
+    case Fault::TooLarge: return u"0135"_s;
+    case Fault::TooShort: return u"0136"_s;
+    case Fault::Damaged: return u"0137"_s;
+    case Fault::BadName: return u"0138"_s;
+    case Fault::NotInCodePage: return u"0139"_s;
+    case Fault::ReadFailed: return u"0170"_s;
+    case Fault::WriteFailed: return u"0171"_s;
+    case Fault::PartlyReplaced: return u"0172"_s;
+    case Fault::Ambiguous: return u"0244"_s;
+    case Fault::CutOff: return u"0242"_s;
+    case Fault::RowsMissing: return u"0243"_s;
+    }
+    return {};
+}
+
+/// The reason of a save in part, when what is new replaced nothing.
+const QString partlyMade = u"0173"_s;
+
 } // namespace
 
 std::span<const OwnMessage> ownMessages() { return messages; }
@@ -143,6 +180,13 @@ QString builtInText(const QString& number) {
 QString ownText(modLanguageSupport& language, const QString& number) {
     const QString found = language.MLSGetString(number).replace(u"\\n"_s, u"\n"_s);
     return found.isEmpty() ? builtInText(number) : found;
+}
+
+QString reasonText(modLanguageSupport& language, const Failure& failure) {
+    const bool onlyMade = failure.fault == Fault::PartlyReplaced && failure.detail.isEmpty();
+    const QString reason = ownText(language, onlyMade ? partlyMade : numberOf(failure.fault));
+    // Both places at once: a file's name may itself hold a percent sign.
+    return reason.contains(u"%2"_s) ? reason.arg(failure.path, failure.detail) : reason.arg(failure.path);
 }
 
 QString standingText(modLanguageSupport& language, const QString& number) {

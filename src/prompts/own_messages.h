@@ -1,5 +1,6 @@
 #pragma once
 
+#include "files/result.h"
 #include "language/language_support.h"
 
 #include <QString>
@@ -24,7 +25,10 @@ struct OwnMessage {
 /// are a line break.
 [[nodiscard]] QString ownText(modLanguageSupport& language, const QString& number);
 
-/// The same for a text that stands on a window: while no language is current it is the built-in one, as the
+/// Why something failed, to which file, and what to do about it.
+[[nodiscard]] QString reasonText(modLanguageSupport& language, const Failure& failure);
+
+/// A message's text for a place on a window: while no language is current it is the built-in one, as the
 /// window's other texts are, and the setting file is not asked for a language.
 [[nodiscard]] QString standingText(modLanguageSupport& language, const QString& number);
 

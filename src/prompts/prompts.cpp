@@ -14,31 +14,8 @@ namespace {
 
 QString numberOf(Task task) { return u"%1"_s.arg(static_cast<int>(task), 4, 10, QChar(u'0')); }
 
-QString numberOf(Fault fault) {
-    switch (fault) {
-    case Fault::NotFound: return u"0130"_s;
-    case Fault::NotRegular: return u"0131"_s;
-    case Fault::Unreadable: return u"0132"_s;
-    case Fault::Unwritable: return u"0133"_s;
-    case Fault::DiskFull: return u"0134"_s;
-    case Fault::TooLarge: return u"0135"_s;
-    case Fault::TooShort: return u"0136"_s;
-    case Fault::Damaged: return u"0137"_s;
-    case Fault::BadName: return u"0138"_s;
-    case Fault::NotInCodePage: return u"0139"_s;
-    case Fault::ReadFailed: return u"0170"_s;
-    case Fault::WriteFailed: return u"0171"_s;
-    case Fault::PartlyReplaced: return u"0172"_s;
-    case Fault::Ambiguous: return u"0244"_s;
-    case Fault::CutOff: return u"0242"_s;
-    case Fault::RowsMissing: return u"0243"_s;
-    }
-    return {};
-}
-
 /// What was being done, when it was done in part.
 const QString partlySaved = u"0174"_s;
-const QString partlyMade = u"0173"_s; ///< the reason, when what is new replaced nothing
 const QString otherNames = u"0175"_s;
 
 /// What is told late may come when its window is hidden or gone.
@@ -85,10 +62,8 @@ void Prompts::showFixed(Form& form, const QString& text) {
 
 void Prompts::tell(Form& form, Task task, const Failure& failure) {
     const bool partly = failure.fault == Fault::PartlyReplaced;
-    QString reason = text(partly && failure.detail.isEmpty() ? partlyMade : numberOf(failure.fault));
-    // Both places at once: a file's name may itself hold a percent sign.
-    reason = reason.contains(u"%2"_s) ? reason.arg(failure.path, failure.detail) : reason.arg(failure.path);
-    showOwn(form, text(partly ? partlySaved : numberOf(task)) + u"\n\n"_s + readableName(reason));
+    showOwn(form, text(partly ? partlySaved : numberOf(task)) + u"\n\n"_s +
+                      readableName(reasonText(language_, failure)));
 }
 
 void Prompts::tellOf(Form& form, const Written& written) {

@@ -81,6 +81,19 @@ std::vector<EarlierVersion> EarlierVersions::versionsOf(const QString& file) con
     return versions;
 }
 
+Result<void> EarlierVersions::bringBack(const QString& file, const EarlierVersion& version) const {
+    const Result<QByteArray> bytes = readWholeFile(version.path, limitsFor(file).maxBytes);
+    if (!bytes) return bytes.failure();
+    const Result<QString> place = resolvePath(programFolder_, file);
+    if (!place) return place.failure();
+    const FileContent next{place.value(), bytes.value()};
+    // Unlike a save, this has no haste: what cannot be kept is not replaced.
+    if (Result<void> kept = keep(next); !kept && kept.failure().fault != Fault::NotFound) return kept;
+    const Result<Written> written =
+        writeWholeFiles({next}, [this](const FileContent& again) { static_cast<void>(keep(again)); });
+    return written ? Result<void>() : written.failure();
+}
+
 void EarlierVersions::dropBeyondLimits(const VersionLimits& limits) const {
     const QString top = store_ + u'/' + limits.folder;
     for (const StoredVersion& version : beyondLimits(storedIn(top), limits))

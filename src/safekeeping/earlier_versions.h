@@ -36,6 +36,10 @@ public:
     /// The versions of a file, the newest first.
     [[nodiscard]] std::vector<EarlierVersion> versionsOf(const QString& file) const;
 
+    /// Puts a version in the place of its file, whose present self is kept before; where that cannot be done
+    /// nothing is. Fails with the faults of keep, resolvePath and writeWholeFile.
+    [[nodiscard]] Result<void> bringBack(const QString& file, const EarlierVersion& version) const;
+
 private:
     [[nodiscard]] Result<QString> folderOf(const QString& file) const;
     void dropBeyondLimits(const VersionLimits& limits) const;

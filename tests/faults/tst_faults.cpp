@@ -353,6 +353,31 @@ private Q_SLOTS:
         QTRY_VERIFY(lastTold(*test).startsWith(builtInText(u"0181"_s)));
     }
 
+    void whatASaveReplacesIsKept() {
+        const auto test = started();
+        const auto keptOf = [&test](const QString& file) {
+            const QDir folder(test->path(u"Stato/versioni/testi/"_s + file));
+            const QStringList names = folder.entryList(QDir::Files);
+            return names.isEmpty() ? QByteArray() : bytesOf(folder.filePath(names.last()));
+        };
+        test->write(u"aeroporti/LIRF/Sid/ROTTA_KENN.txt"_s, "BY HAND\r\nTWO LINES\r\n");
+        const QByteArray setting = test->read(u"LangSetting.ini"_s);
+        test->click(u"ImgLingua(0)"_s);
+        QCOMPARE(keptOf(u"LangSetting.ini"_s), setting);
+        test->openViewer(u"LIRF"_s);
+        test->click(u"Option1(0)"_s);
+        test->clickRow(u"List1"_s, 0);
+        test->click(u"cmdSave"_s);
+        QCOMPARE(keptOf(u"aeroporti/LIRF/Sid/ROTTA_KENN.txt"_s), "BY HAND\r\nTWO LINES\r\n");
+
+        QVERIFY(QDir(test->path(u"Stato"_s)).removeRecursively());
+        test->write(u"Stato"_s, "no folder");
+        test->write(u"aeroporti/LIRF/Sid/ROTTA_KENN.txt"_s, "AGAIN");
+        test->click(u"cmdSave"_s);
+        QCOMPARE(test->read(u"aeroporti/LIRF/Sid/ROTTA_KENN.txt"_s), "\"BY HAND\"\r\n"); // saved all the same
+        QTRY_VERIFY(lastTold(*test).startsWith(u"The earlier version"_s));
+    }
+
     void aWindowThatGoesTakesItsMessageAlong() {
         auto* window = new QWidget;
         QTimer::singleShot(0, window, [window] { delete window; });

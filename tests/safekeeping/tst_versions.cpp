@@ -81,6 +81,9 @@ private Q_SLOTS:
         QVERIFY(save("one"));
         put(at(u"state"_s), "no folder");
         QVERIFY(!versions().keep({at(u"program/"_s + file_), "two"}));
+        put(at(u"version"_s), "two"); // and is not replaced when a version is brought back
+        QVERIFY(!versions().bringBack(file_, {{}, at(u"version"_s)}));
+        QCOMPARE(bytesOf(at(u"program/"_s + file_)), "one");
     }
 
     void namesSayWhen() {

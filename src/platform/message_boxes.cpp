@@ -25,6 +25,7 @@ QMessageBox::StandardButtons buttonsOf(Buttons buttons) {
     switch (buttons) {
     case Buttons::OkCancel: return QMessageBox::Ok | QMessageBox::Cancel;
     case Buttons::YesNo: return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::OkAgainCancel: return QMessageBox::Ok | QMessageBox::Retry | QMessageBox::Cancel;
     case Buttons::Ok: break;
     }
     return QMessageBox::Ok;
@@ -40,6 +41,7 @@ Answer answerOf(int button) {
     case QMessageBox::Ok: return Answer::Ok;
     case QMessageBox::Yes: return Answer::Yes;
     case QMessageBox::No: return Answer::No;
+    case QMessageBox::Retry: return Answer::Again;
     default: return Answer::Cancel;
     }
 }
@@ -63,6 +65,9 @@ Answer QtMessageBoxes::show(QWidget* parent, const MessageBox& box, const Button
     nameButton(*shown, QMessageBox::Cancel, captions.cancel);
     nameButton(*shown, QMessageBox::Yes, captions.yes);
     nameButton(*shown, QMessageBox::No, captions.no);
+    nameButton(*shown, QMessageBox::Retry, captions.again);
+    // Where there is more than yes or no, Return by habit chooses what changes nothing.
+    if (box.buttons == Buttons::OkAgainCancel) shown->setDefaultButton(QMessageBox::Cancel);
     const Answer answer = answerOf(shown->exec());
     delete shown.data();
     return answer;

@@ -6,10 +6,10 @@ class QWidget;
 
 namespace quarvel {
 
-enum class Buttons { Ok, OkCancel, YesNo };
+enum class Buttons { Ok, OkCancel, YesNo, OkAgainCancel };
 enum class BoxIcon { None, Critical, Question, Exclamation, Information };
 /// Closing a box without a button counts as Cancel, as No where there is no Cancel, as Ok where it is alone.
-enum class Answer { Ok, Cancel, Yes, No };
+enum class Answer { Ok, Cancel, Yes, No, Again };
 
 /// A message box as it is to be shown.
 struct MessageBox {
@@ -26,6 +26,7 @@ struct ButtonCaptions {
     QString cancel;
     QString yes;
     QString no;
+    QString again;
 };
 
 /// Shows message boxes and waits for the answer.

@@ -114,6 +114,12 @@ constexpr std::array messages = {
     OwnMessage{u"0186", u"Non c'è una versione %2 di «%1». «quarvel versions» elenca quelle che ci sono."},
     OwnMessage{u"0187", u"«%1» è di nuovo com'era fino al %2. Il contenuto di prima è tra le versioni."},
     OwnMessage{u"0188", u"La versione non è stata riportata: il file è rimasto com'era."},
+    // The question before a save.
+    OwnMessage{u"0189", u"Sul disco c'è qualcosa che in questa finestra non hai visto:\n%1\nSe salvi sopra, "
+                        u"il contenuto di adesso resta tra le versioni di prima. Se rileggi, quello che hai "
+                        u"scritto resta lì, e qui appare ciò che è sul disco."},
+    OwnMessage{u"0190", u"&Salva sopra"},
+    OwnMessage{u"0191", u"&Rileggi"},
     // What is typed and not saved yet.
     OwnMessage{u"0200",
                u"Il testo incollato o trascinato è più lungo dello spazio che c'è nella casella: ne è "

@@ -32,7 +32,7 @@ Prompts::Prompts(modLanguageSupport& language, MessageBoxes& boxes) : language_(
 QString Prompts::text(const QString& number) { return ownText(language_, number); }
 
 ButtonCaptions Prompts::captions() {
-    return {text(u"0102"_s), text(u"0103"_s), text(u"0104"_s), text(u"0105"_s)};
+    return {text(u"0102"_s), text(u"0103"_s), text(u"0104"_s), text(u"0105"_s), {}};
 }
 
 Answer Prompts::ask(Form& form, const QString& prompt, const QString& title, Buttons buttons, BoxIcon icon,
@@ -53,11 +53,21 @@ Answer Prompts::show(Form& form, const MessageBox& box) {
     return boxes_.show(parentFor(form), box, captions());
 }
 
+Answer Prompts::askAboutUnseen(Form& form, const QStringList& paths) {
+    const MessageBox box{text(u"0189"_s).arg(paths.join(u'\n')), text(u"0101"_s), Buttons::OkAgainCancel,
+                         BoxIcon::Exclamation};
+    ButtonCaptions named = captions();
+    named.ok = text(u"0190"_s);
+    named.again = text(u"0191"_s);
+    const Form::OwnBox own(form);
+    return boxes_.show(form.window(), box, named);
+}
+
 void Prompts::showFixed(Form& form, const QString& text) {
     const Form::OwnBox own(form);
     // A lookup would make a language current: a fixed text has fixed buttons.
     static_cast<void>(boxes_.show(form.window(), {text, QCoreApplication::applicationName()},
-                                  {builtInText(u"0102"_s), {}, {}, {}}));
+                                  {builtInText(u"0102"_s), {}, {}, {}, {}}));
 }
 
 void Prompts::tell(Form& form, Task task, const Failure& failure) {

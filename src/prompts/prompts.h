@@ -8,6 +8,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 namespace quarvel {
 
@@ -52,6 +53,9 @@ public:
     [[nodiscard]] Answer askOwn(Form& form, const QString& prompt);
     /// One of the program's own texts about a file.
     [[nodiscard]] QString textOn(const QString& number, const QString& path);
+    /// Asks what is to become of what these files hold and the user has not seen: Ok replaces it, Again shows
+    /// it.
+    [[nodiscard]] Answer askAboutUnseen(Form& form, const QStringList& paths);
     /// Shows a fixed text, titled with the application's name.
     void showFixed(Form& form, const QString& text);
     /// Tells what was being done, to which file, why it failed and what to do.

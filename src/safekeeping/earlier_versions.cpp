@@ -34,27 +34,39 @@ Result<QString> EarlierVersions::folderOf(const QString& file) const {
     return resolvePath(store_, limitsFor(file).folder + u'/' + file);
 }
 
-Result<void> EarlierVersions::keep(const FileContent& next) const {
-    if (!next.path.startsWith(programFolder_ + u'/')) return Failure{Fault::BadName, next.path, {}};
-    const QString file = next.path.mid(programFolder_.size() + 1);
-    const VersionLimits& limits = limitsFor(file);
-    const Result<QByteArray> present = readWholeFile(next.path, limits.maxBytes);
-    if (!present) return present.failure();
-    if (present.value() == next.bytes) return {};
+Result<QString> EarlierVersions::relative(const QString& path) const {
+    if (!path.startsWith(programFolder_ + u'/')) return Failure{Fault::BadName, path, {}};
+    return path.mid(programFolder_.size() + 1);
+}
 
+Result<void> EarlierVersions::keep(const FileContent& next) const {
+    const Result<QString> file = relative(next.path);
+    if (!file) return file.failure();
+    const Result<QByteArray> present = readWholeFile(next.path, limitsFor(file.value()).maxBytes);
+    if (!present) return present.failure();
+    return present.value() == next.bytes ? Result<void>() : store(file.value(), present.value());
+}
+
+Result<void> EarlierVersions::keepTyped(const FileContent& typed) const {
+    const Result<QString> file = relative(typed.path);
+    return file ? store(file.value(), typed.bytes) : file.failure();
+}
+
+/// Stores the newest version of a file, unless it is that already.
+Result<void> EarlierVersions::store(const QString& file, const QByteArray& bytes) const {
+    const VersionLimits& limits = limitsFor(file);
     const std::vector<EarlierVersion> versions = versionsOf(file);
     QDateTime now = QDateTime::currentDateTimeUtc();
     if (!versions.empty()) {
         const EarlierVersion& newest = versions.front();
-        const Result<QByteArray> bytes = readWholeFile(newest.path, limits.maxBytes);
-        if (bytes && bytes.value() == present.value()) return {};
+        const Result<QByteArray> last = readWholeFile(newest.path, limits.maxBytes);
+        if (last && last.value() == bytes) return {};
         now = std::max(now, newest.kept.addMSecs(1)); // after it, be the clock set back
     }
     const Result<QString> folder = folderOf(file);
     if (!folder) return folder.failure();
     if (Result<void> made = makeFolder(folder.value(), access_); !made) return made;
-    const Result<Written> kept =
-        writeWholeFile(folder.value() + u'/' + versionName(now, file), present.value());
+    const Result<Written> kept = writeWholeFile(folder.value() + u'/' + versionName(now, file), bytes);
     dropBeyondLimits(limits);
     return kept ? Result<void>() : kept.failure();
 }

@@ -30,6 +30,9 @@ public:
     /// readWholeFile and writeWholeFile.
     [[nodiscard]] Result<void> keep(const FileContent& next) const;
 
+    /// Keeps what somebody typed for a file, and would lose, as its newest version. Fails like keep.
+    [[nodiscard]] Result<void> keepTyped(const FileContent& typed) const;
+
     /// The files that have versions, by their paths in the program folder ("aeroporti/LIRF/Sid/ROTTA_K.txt").
     [[nodiscard]] QStringList files() const;
 
@@ -41,6 +44,8 @@ public:
     [[nodiscard]] Result<void> bringBack(const QString& file, const EarlierVersion& version) const;
 
 private:
+    [[nodiscard]] Result<QString> relative(const QString& path) const;
+    [[nodiscard]] Result<void> store(const QString& file, const QByteArray& bytes) const;
     [[nodiscard]] Result<QString> folderOf(const QString& file) const;
     void dropBeyondLimits(const VersionLimits& limits) const;
 

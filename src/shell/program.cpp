@@ -25,10 +25,11 @@ Program::Program(const ProgramFolder& folder, const Services& services, Presente
           folder, [this](StateTrouble trouble, const Failure& failure) { tellLater(trouble, failure); })),
       versions_(folder.path, findStateFolder(folder)),
       beforeReplacing_([this](const FileContent& next) { keepOld(next); }),
+      keepTyped_([this](const FileContent& typed) { return versions_.keepTyped(typed); }),
       language_(folder.path, state_.MLSCurrentLanguage, beforeReplacing_),
       prompts_(language_, services.messageBoxes), toolkitTexts_(language_), services_(services),
       main_({state_, paths_, language_, prompts_, services_, presenter, *this, beforeReplacing_}),
-      view_({state_, paths_, language_, prompts_, services_, *this, beforeReplacing_}),
+      view_({state_, paths_, language_, prompts_, services_, *this, beforeReplacing_, keepTyped_}),
       companion_({state_, paths_, language_, prompts_, services_, *this}) {
     QCoreApplication::installTranslator(&toolkitTexts_);
 }

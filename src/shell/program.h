@@ -55,6 +55,7 @@ private:
     EarlierVersions versions_;
     bool toldOfVersions_ = false;
     BeforeReplacing beforeReplacing_;
+    KeepTyped keepTyped_;
     modLanguageSupport language_;
     Prompts prompts_;
     ToolkitTexts toolkitTexts_;

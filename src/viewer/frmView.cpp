@@ -26,7 +26,8 @@ constexpr FormDesign design{.name = "frmView",
 
 frmView::frmView(const frmViewNeeds& needs)
     : FormOf(design, needs.windows), state_(needs.state), paths_(needs.paths), language_(needs.language),
-      prompts_(needs.prompts), services_(needs.services), beforeReplacing_(needs.beforeReplacing) {}
+      prompts_(needs.prompts), services_(needs.services), beforeReplacing_(needs.beforeReplacing),
+      keepTyped_(needs.keepTyped) {}
 
 void frmView::wire() {
     c->Option1.forEach([this](int index, OptionButton& option) {

@@ -11,12 +11,19 @@
 #include "viewer/frmView_controls.h"
 #include "viewer/viewport/chart_frame.h"
 
+#include <QByteArray>
 #include <QSizeF>
 #include <QString>
+#include <functional>
 #include <optional>
+#include <set>
+#include <utility>
 #include <vector>
 
 namespace quarvel {
+
+/// Takes what was typed for a file and has to give way to what the disk holds.
+using KeepTyped = std::function<Result<void>(const FileContent& typed)>;
 
 /// What the chart viewer works with; all of it outlives the window.
 struct frmViewNeeds {
@@ -27,6 +34,7 @@ struct frmViewNeeds {
     const Services& services;
     Windows& windows;
     const BeforeReplacing& beforeReplacing; ///< of every save of the user's files
+    const KeepTyped& keepTyped;
 };
 
 /// The chart viewer: the charts of the current airport by family, with their notes, zoomed and panned.
@@ -77,15 +85,19 @@ private:
     void Option1_Click(int index);
     void setFamilyTexts(Family family);
     void List1_Click();
-    [[nodiscard]] Result<std::vector<NoteText>> readNotes(const QString& chart) const;
     void showNotes(const std::vector<NoteText>& notes);
     void keepChosenChart();
-    void cmdSave_Click();
     void Text1_KeyPress(char16_t& key);
     void Text2_KeyPress(char16_t& key);
     void Text3_KeyPress(char16_t& key);
     void tellCutText();
     [[nodiscard]] MultiLineTextBox& boxOf(NotesBox box) const;
+
+    // Saving notes (frmView_saving.cpp)
+    void cmdSave_Click();
+    [[nodiscard]] std::vector<NoteText> typedNotes() const;
+    [[nodiscard]] Answer askAboutUnseen(const std::vector<NoteFile>& now);
+    [[nodiscard]] Result<void> readAgain(std::vector<NoteFile> now);
 
     ProcessState& state_;
     const ArchivePaths& paths_;
@@ -93,10 +105,13 @@ private:
     Prompts& prompts_;
     const Services& services_;
     const BeforeReplacing& beforeReplacing_;
+    const KeepTyped& keepTyped_;
 
     std::optional<ChartFrame> chart_; ///< while the window is loaded
-    int chosenOption_ = -1;           ///< of the list on show; -1 once the options have been cleared
-    int chosenRow_ = -1; ///< of the chart shown, in the list on show; -1 when it is none of this list
+    std::vector<NoteFile> notesRead_; ///< of the chart shown, as they were when last seen or saved
+    std::set<std::pair<QString, QByteArray>> asked_; ///< paths and contents that the user was asked about
+    int chosenOption_ = -1; ///< of the list on show; -1 once the options have been cleared
+    int chosenRow_ = -1;    ///< of the chart shown, in the list on show; -1 when it is none of this list
 };
 
 } // namespace quarvel

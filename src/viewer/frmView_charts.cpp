@@ -68,7 +68,8 @@ void frmView::List1_Click() {
         prompts_.tell(*this, Task::ReadChart, picture.failure());
         return;
     }
-    const Result<std::vector<NoteText>> notes = readNotes(chart);
+    Result<std::vector<NoteFile>> files = readNoteFiles(c->File1.path(), FamilyMode, chart);
+    const Result<std::vector<NoteText>> notes = files.then(notesIn);
     if (!notes) {
         keepChosenChart();
         prompts_.tell(*this, Task::ReadNote, notes.failure());
@@ -81,6 +82,7 @@ void frmView::List1_Click() {
     }
     c->chartHint.showText({});
     showNotes(notes.value());
+    notesRead_ = files.take();
     c->Command4.setUsable(Usable::Yes);
     ChartName = chart;
     state_.ChartFile = chartFileName(chart);
@@ -94,35 +96,12 @@ void frmView::keepChosenChart() {
     if (c != nullptr) c->List1.select(chosenRow_);
 }
 
-Result<std::vector<NoteText>> frmView::readNotes(const QString& chart) const {
-    std::vector<NoteText> notes;
-    for (const NoteKind& kind : notesOf(FamilyMode)) {
-        Result<QString> note = loadNote(c->File1.path(), kind, chart);
-        if (!note) return note.failure();
-        notes.push_back({kind.box, note.take()});
-    }
-    return notes;
-}
-
 void frmView::showNotes(const std::vector<NoteText>& notes) {
     for (const NotesBox box : {NotesBox::Text1, NotesBox::Text2, NotesBox::Text3}) boxOf(box).setText({});
     for (const NoteText& note : notes) {
         boxOf(note.box).setEditing(Editing::Free);
         boxOf(note.box).setText(note.text);
     }
-}
-
-void frmView::cmdSave_Click() {
-    if (chosenRow_ < 0) {
-        prompts_.tell(*this, Task::ChooseChartFirst);
-        return;
-    }
-    const Answer answer = prompts_.ask(*this, u"0027"_s, u"0028"_s, Buttons::OkCancel, BoxIcon::None);
-    if (answer != Answer::Ok || c == nullptr) return;
-    std::vector<NoteText> texts;
-    for (const NoteKind& kind : notesOf(FamilyMode)) texts.push_back({kind.box, boxOf(kind.box).text()});
-    const Result<Written> saved = saveNotes(c->File1.path(), FamilyMode, ChartName, texts, beforeReplacing_);
-    saved ? prompts_.tellOf(*this, saved.value()) : prompts_.tell(*this, Task::SaveNotes, saved.failure());
 }
 
 void frmView::Text1_KeyPress(char16_t& key) { key = UpperCaseKey(key); }

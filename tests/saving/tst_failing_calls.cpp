@@ -179,7 +179,12 @@ private Q_SLOTS:
         const QList<std::function<bool()>> looks = {
             [&] { return hasDataFile(paths, u"KILL"_s).valueOr(true) == false; },
             [&] { return hasPicture(paths, u"KILL"_s, u"KILL"_s).valueOr(true) == false; },
-            [&] { return text(loadNote(aside + u"Sid"_s, notesOf(Family::Sid)[0], u"KENN"_s)); },
+            [&] {
+                return text(
+                    readNoteFiles(aside + u"Sid"_s, Family::Sid, u"KENN"_s).then([](const auto& files) {
+                        return noteIn(files[0]);
+                    }));
+            },
             [&] { return paths.dataFile(u"kill"_s).valueOr(u"KILL.txt"_s).endsWith(u"kill.txt"_s); },
             [&] {
                 return listFiles(aside + u"Sid"_s).valueOr({u""_s, u""_s, u""_s}).size() != 3;

@@ -1,4 +1,5 @@
 #include "forms/form_widget.h"
+#include "support/disk.h"
 #include "support/test_program.h"
 
 #include <QAbstractButton>
@@ -156,6 +157,37 @@ private Q_SLOTS:
         QCOMPARE(test.notes(u"Text2"_s), u"VIA ELB"_s);
         rename("zet\xE0 \x80.gif", "zeta.gif"); // what the toolkit could not remove
         rename("ROTTA_ZET\xC0 \x80.txt", "ROTTA_KENN1.txt");
+    }
+
+    void whatTheDiskHoldsUnseenIsAskedAboutOnce() {
+        Viewer test;
+        const QString note = u"aeroporti/LIRF/Approach/MISSED_ILS16.txt"_s; // cut by a save: there is a comma
+        const QByteArray byHand = test.read(note);
+        test.choose(u"Option1(2)"_s, 0);
+        test.box(u"Text2"_s)->setPlainText(u"TYPED"_s);
+        const auto save = [&](Answer unseen) {
+            test.boxes.shown.clear();
+            test.boxes.answers = {Answer::Ok, unseen};
+            test.click(u"cmdSave"_s);
+            return test.boxes.shown.size() > 1;
+        };
+        QVERIFY(save(Answer::Cancel) && test.said().contains(test.path(note)));
+        QCOMPARE(test.boxes.captions.last().again, u"&Rileggi"_s);
+        QCOMPARE(test.read(note), byHand);
+        test.write(note, "\"EDITOR\"\r\n"); // meanwhile
+        QVERIFY(save(Answer::Again));
+        QCOMPARE(test.notes(u"Text2"_s), u"EDITOR"_s);
+        const QDir kept(test.path(u"Stato/versioni/testi/"_s + note));
+        QCOMPARE(bytesOf(kept.filePath(kept.entryList(QDir::Files).last())), "\"TYPED\"\r\n");
+        test.box(u"Text2"_s)->setPlainText(u"TYPED AGAIN"_s);
+        QVERIFY(!save(Answer::Ok)); // it has been seen
+        QCOMPARE(test.read(note), "\"TYPED AGAIN\"\r\n");
+        QVERIFY(!save(Answer::Ok)); // and is the program's own
+        test.write(note, byHand);
+        QVERIFY(!save(Answer::Ok)); // asked about before
+        test.write(note, "LATER");
+        QVERIFY(save(Answer::Ok));
+        QCOMPARE(test.read(note), "\"TYPED AGAIN\"\r\n");
     }
 
     void savingNeedsAChartOfTheListAndWhatCanBeStored() {

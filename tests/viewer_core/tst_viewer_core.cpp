@@ -52,6 +52,18 @@ private Q_SLOTS:
         for (const auto& [bytes, note] : files) QCOMPARE(parseNote(bytes, u"note.txt"_s).value(), note);
     }
 
+    void whatASaveWouldTakeAwayUnseen() {
+        const QList<std::pair<QByteArray, bool>> files = {
+            {"\"A\"\r\n", false}, {"\"A\r\nB", false}, {"A\r\n \n", false},   {"\r\n", false},
+            {"A\r\nB\r\n", true}, {"A, B", true},      {"\"A\" B\r\n", true}, {"\"A\"\r\n\"B\"", true}};
+        for (const auto& [bytes, more] : files) QCOMPARE(holdsMoreThanNote(bytes), more);
+        const auto unseen = [](std::optional<QByteArray> read, std::optional<QByteArray> now) {
+            return holdsUnseen({NotesBox::Text1, {}, std::move(read)}, {NotesBox::Text1, {}, std::move(now)});
+        };
+        QVERIFY(!unseen("\"A\"", "\"A\"") && !unseen("\"A\"", {}) && !unseen({}, {}));
+        QVERIFY(unseen("\"A\"", "\"B\"") && unseen({}, "\"B\"") && unseen("A,B", "A,B"));
+    }
+
     void notesAreWrittenToTheByte() {
         const auto written = [](const QString& text) { return noteBytes(text, u"note.txt"_s).value(); };
         QCOMPARE(written(u"A\nB\rC\r\nD\n"_s), "\"A\r\nB\r\nC\r\nD\r\n\"\r\n"_ba);

@@ -29,6 +29,25 @@ QString withLineFeeds(QString text) {
     return text;
 }
 
+/// The first field of a notes file's text and what stands behind it, its closing quote left out.
+struct Field {
+    QStringView text;
+    QStringView rest;
+};
+
+std::optional<Field> firstField(QStringView file) {
+    const auto* const start =
+        std::find_if(file.begin(), file.end(), [](QChar letter) { return letter != u' '; });
+    if (start == file.end()) return std::nullopt;
+    if (*start == u'"') {
+        const auto* const end = std::find(start + 1, file.end(), u'"');
+        return Field{{start + 1, end}, {end == file.end() ? end : end + 1, file.end()}};
+    }
+    constexpr std::array fieldEnds = {u',', u'\r', u'\n'};
+    const auto* const end = std::find_first_of(start, file.end(), fieldEnds.begin(), fieldEnds.end());
+    return Field{{start, end}, {end, file.end()}};
+}
+
 /// Exactly one separator between the two, whether or not the folder ends in one.
 QString noteFilePath(const QString& folder, const NoteKind& kind, const QString& chartName) {
     return QDir(folder).filePath(noteFileName(kind, chartName));
@@ -52,15 +71,15 @@ QString noteFileName(const NoteKind& kind, const QString& chartName) {
 
 Result<QString> parseNote(const QByteArray& bytes, const QString& path) {
     const QString file = decodeText(bytes);
-    const auto start = std::find_if(file.cbegin(), file.cend(), [](QChar letter) { return letter != u' '; });
-    if (start == file.cend()) return Failure{Fault::TooShort, path, {}};
-    if (*start == u'"') {
-        const auto end = std::find(start + 1, file.cend(), u'"');
-        return withLineFeeds(QString(start + 1, end - start - 1));
-    }
-    constexpr std::array fieldEnds = {u',', u'\r', u'\n'};
-    const auto end = std::find_first_of(start, file.cend(), fieldEnds.begin(), fieldEnds.end());
-    return QString(start, end - start);
+    const std::optional<Field> field = firstField(file);
+    if (!field) return Failure{Fault::TooShort, path, {}};
+    return withLineFeeds(field->text.toString());
+}
+
+bool holdsMoreThanNote(const QByteArray& bytes) {
+    const QString file = decodeText(bytes);
+    const std::optional<Field> field = firstField(file);
+    return field && !field->rest.trimmed().isEmpty();
 }
 
 Result<QByteArray> noteBytes(const QString& text, const QString& path) {
@@ -78,20 +97,43 @@ Result<QByteArray> noteBytes(const QString& text, const QString& path) {
     return bytes;
 }
 
-Result<QString> loadNote(const QString& folder, const NoteKind& kind, const QString& chartName) {
-    const QString name = noteFileName(kind, chartName);
-    const Result<bool> held = holdsExactly(folder, name);
-    if (!held) return held.failure();
-    if (!held.value()) return QString();
-    const Result<QString> path = resolvePath(folder, name);
-    if (!path) return path;
-    const Result<QByteArray> bytes = readWholeFile(path.value(), largestNoteBytes);
-    if (!bytes) return bytes.failure();
-    return parseNote(bytes.value(), path.value());
+Result<std::vector<NoteFile>> readNoteFiles(const QString& folder, Family family, const QString& chartName) {
+    std::vector<NoteFile> files;
+    for (const NoteKind& kind : notesOf(family)) {
+        const QString name = noteFileName(kind, chartName);
+        files.push_back({kind.box, noteFilePath(folder, kind, chartName), std::nullopt});
+        const Result<bool> held = holdsExactly(folder, name);
+        if (!held) return held.failure();
+        if (!held.value()) continue;
+        const Result<QString> path = resolvePath(folder, name);
+        if (!path) return path.failure();
+        Result<QByteArray> bytes = readWholeFile(path.value(), largestNoteBytes);
+        if (!bytes) return bytes.failure();
+        files.back().bytes = bytes.take();
+    }
+    return files;
 }
 
-Result<Written> saveNotes(const QString& folder, Family family, const QString& chartName,
-                          const std::vector<NoteText>& texts, const BeforeReplacing& beforeReplacing) {
+Result<QString> noteIn(const NoteFile& file) {
+    return file.bytes ? parseNote(*file.bytes, file.path) : Result<QString>(QString());
+}
+
+Result<std::vector<NoteText>> notesIn(const std::vector<NoteFile>& files) {
+    std::vector<NoteText> notes;
+    for (const NoteFile& file : files) {
+        Result<QString> note = noteIn(file);
+        if (!note) return note.failure();
+        notes.push_back({file.box, note.take()});
+    }
+    return notes;
+}
+
+bool holdsUnseen(const NoteFile& read, const NoteFile& now) {
+    return now.bytes && (now.bytes != read.bytes || holdsMoreThanNote(*now.bytes));
+}
+
+Result<std::vector<FileContent>> noteContents(const QString& folder, Family family, const QString& chartName,
+                                              const std::vector<NoteText>& texts) {
     std::vector<FileContent> files;
     for (const NoteKind& kind : notesOf(family)) {
         const auto note = std::find_if(texts.cbegin(), texts.cend(),
@@ -103,7 +145,14 @@ Result<Written> saveNotes(const QString& folder, Family family, const QString& c
         if (!bytes) return bytes.failure();
         files.push_back({path, bytes.take()});
     }
-    return writeWholeFiles(files, beforeReplacing);
+    return files;
+}
+
+Result<Written> saveNotes(const QString& folder, Family family, const QString& chartName,
+                          const std::vector<NoteText>& texts, const BeforeReplacing& beforeReplacing) {
+    return noteContents(folder, family, chartName, texts).then([&](const std::vector<FileContent>& files) {
+        return writeWholeFiles(files, beforeReplacing);
+    });
 }
 
 } // namespace quarvel

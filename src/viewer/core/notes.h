@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -35,21 +36,47 @@ inline constexpr qint64 largestNoteBytes = qint64{1024} * 1024;
 /// when the file has no field.
 [[nodiscard]] Result<QString> parseNote(const QByteArray& bytes, const QString& path);
 
+/// Whether a notes file holds more than the note that is read from it, which a save would take away: anything
+/// but blanks and line ends behind the first field.
+[[nodiscard]] bool holdsMoreThanNote(const QByteArray& bytes);
+
 /// The bytes of a notes file: the text in double quotes, CR LF. Line breaks inside the text become CR LF, a
 /// double quote the closing typographic quote. Fails with NotInCodePage (detail: the character), Ambiguous
 /// (detail: the characters that would be read back as one of UTF-8) and TooLarge.
 [[nodiscard]] Result<QByteArray> noteBytes(const QString& text, const QString& path);
 
-/// A chart's note, or an empty text when the folder lists no file of exactly that name. Fails with the faults
-/// of holdsExactly, readWholeFile and parseNote. Line ends come back as single line feeds, as text boxes hold
-/// them.
-[[nodiscard]] Result<QString> loadNote(const QString& folder, const NoteKind& kind, const QString& chartName);
+/// A note's file as it lies on the disk.
+struct NoteFile {
+    NotesBox box;
+    QString path;
+    std::optional<QByteArray> bytes; ///< none where the folder lists no file of exactly that name
+};
+
+/// The files of all notes of a chart, in the family's order. Fails with the faults of holdsExactly and
+/// readWholeFile.
+[[nodiscard]] Result<std::vector<NoteFile>> readNoteFiles(const QString& folder, Family family,
+                                                          const QString& chartName);
+
+/// The note in a file, an empty text where there is none. Fails with those of parseNote.
+[[nodiscard]] Result<QString> noteIn(const NoteFile& file);
+
+/// Whether replacing the file as it is `now` takes away what nobody saw who knows it as it was `read`: it has
+/// changed since, or holds more than its note.
+[[nodiscard]] bool holdsUnseen(const NoteFile& read, const NoteFile& now);
 
 /// The text of one notes box to be saved.
 struct NoteText {
     NotesBox box;
     QString text;
 };
+
+/// The notes in all files of a chart. Fails with those of parseNote.
+[[nodiscard]] Result<std::vector<NoteText>> notesIn(const std::vector<NoteFile>& files);
+
+/// What a save of the notes writes, in the family's order. Fails with the faults of noteBytes.
+[[nodiscard]] Result<std::vector<FileContent>> noteContents(const QString& folder, Family family,
+                                                            const QString& chartName,
+                                                            const std::vector<NoteText>& texts);
 
 /// Writes all notes of a chart, in the family's order. All of them are prepared before the first file
 /// changes, so that a character that cannot be stored or a full disk leaves every note as it was. Fails with

@@ -172,6 +172,7 @@ private:
     void judge(const QByteArray& path) const {
         const auto target = targets_.find(path);
         QFile file(QFile::decodeName(path));
+        if (file.fileName().contains(u"/Stato"_s)) return; // the program's own, not the user's
         if (target == targets_.end()) fail(u"Changed, though nobody saved it: "_s + file.fileName());
         const bool isFolder = target->second == nullptr;
         if (isFolder ? !QFileInfo(file).isDir()

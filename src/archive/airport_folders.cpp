@@ -31,7 +31,7 @@ bool isEmptyFolder(const QString& path) {
     return names && names.value().isEmpty();
 }
 
-void removeFolder(const QString& path) { ::rmdir(systemName(path).constData()); }
+bool removeFolder(const QString& path) { return ::rmdir(systemName(path).constData()) == 0; }
 
 } // namespace
 
@@ -70,8 +70,12 @@ void removeEmptyAirportFolders(const QString& airport) {
     if (!names || names.value().size() != subFolders.size()) return;
     for (const QString& part : subFolders)
         if (!isEmptyFolder(airport + u'/' + part)) return;
-    for (const QString& part : subFolders) removeFolder(airport + u'/' + part);
-    removeFolder(airport);
+    QStringList gone;
+    for (const QString& part : subFolders)
+        if (removeFolder(airport + u'/' + part)) gone.append(part);
+    if (gone.size() == subFolders.size() && removeFolder(airport)) return;
+    // All or none: to an airport with only some of its folders nothing could be saved.
+    for (const QString& part : gone) makeFolder(airport + u'/' + part);
 }
 
 } // namespace quarvel

@@ -16,7 +16,7 @@ enum class AirportFolders { Made, WereThere };
 /// then is taken back.
 [[nodiscard]] Result<AirportFolders> createAirportFolders(const ArchivePaths& paths, const QString& name);
 
-/// Takes back what createAirportFolders made, as long as there is nothing in it.
+/// Takes back what createAirportFolders made, as long as there is nothing in it: all of the folders, or none.
 void removeEmptyAirportFolders(const QString& airport);
 
 } // namespace quarvel

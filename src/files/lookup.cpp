@@ -113,7 +113,7 @@ Result<bool> holdsExactly(const QString& folder, const QString& name) {
     if (!names) return names.failure();
     for (const QString& held : names.value()) {
         if (readableName(held) != name) continue;
-        const Result<bool> file = isFile(folder + u'/' + held);
+        Result<bool> file = isFile(folder + u'/' + held);
         if (!file || file.value()) return file;
     }
     return false;

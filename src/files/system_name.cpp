@@ -35,7 +35,7 @@ QByteArray systemName(const QString& path) {
 
 QString nameFromSystem(QByteArrayView bytes) {
     QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-    const QString name = utf8(bytes);
+    QString name = utf8(bytes);
     if (!utf8.hasError()) return name;
     QString kept;
     for (const char byte : bytes) {

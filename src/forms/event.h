@@ -15,8 +15,6 @@ public:
         handler_ = [=](Args... args) { (window->*handler)(bound..., static_cast<Args>(args)...); };
     }
 
-    [[nodiscard]] bool isWired() const { return handler_ != nullptr; }
-
     void raise(Args... args) const {
         // The handler may rewire or unload the window that it belongs to: it runs from a copy.
         if (const auto handler = handler_) handler(static_cast<Args>(args)...);

@@ -124,8 +124,11 @@ protected:
     }
 
     bool viewportEvent(QEvent* event) override {
-        if (event->type() == QEvent::ToolTip && !isCut(indexAt(static_cast<QHelpEvent*>(event)->pos())))
-            return QAbstractScrollArea::viewportEvent(event); // the list's own tip
+        if (event->type() == QEvent::ToolTip && !isCut(indexAt(static_cast<QHelpEvent*>(event)->pos()))) {
+            // The list's own tip, past the view, which would look for the row's.
+            // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+            return QAbstractScrollArea::viewportEvent(event);
+        }
         return QListView::viewportEvent(event);
     }
     void paintEvent(QPaintEvent* event) override {

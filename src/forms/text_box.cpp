@@ -1,7 +1,6 @@
 #include "forms/text_box.h"
 
 #include "forms/accessible_entry.h"
-#include "forms/command.h"
 #include "forms/typing.h"
 
 #include <QDropEvent>
@@ -80,11 +79,13 @@ protected:
     }
     void keyPressEvent(QKeyEvent* event) override {
         QKeyEvent filtered = filteredKeyPress(events_, *event);
-        const QScopedValueRollback typing(typing_, !event->matches(QKeySequence::Paste));
-        QLineEdit::keyPressEvent(&filtered);
+        {
+            const QScopedValueRollback typing(typing_, !event->matches(QKeySequence::Paste));
+            QLineEdit::keyPressEvent(&filtered);
+        }
         event->setAccepted(filtered.isAccepted());
         const bool enters = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-        if (enters && !event->isAutoRepeat() && events_.entered.isWired()) command(*this, events_.entered);
+        if (enters && !event->isAutoRepeat()) events_.entered.raise(); // last: the box may go meanwhile
     }
     void inputMethodEvent(QInputMethodEvent* event) override {
         // Dead keys, compose sequences and on-screen keyboards type this way.

@@ -18,7 +18,7 @@ struct TextBoxEvents {
     Event<int> keyUp;          ///< a key (Qt::Key) was released, whichever; not the repeats of a held one
     Event<> lostFocus;         ///< the focus went to another control of the window
     Event<> cut;               ///< words of what was pasted or dropped did not fit into the box
-    Event<> entered;           ///< Return was pressed in a box of one line; a command
+    Event<> entered;           ///< Return was pressed in a box of one line
 };
 
 /// A text box of one line; its text is centred.

@@ -53,7 +53,7 @@ std::uint8_t OwnColours::nearest(std::uint32_t colour) const {
 
 Stripes::Stripes(OwnColours& colours, int width) {
     const std::array<std::uint8_t, 2> indices = {colours.index(lightGrey), colours.index(darkGrey)};
-    const auto count = static_cast<std::size_t>(width + 2 * stripeWidth);
+    const auto count = static_cast<std::size_t>(width) + std::size_t{2} * stripeWidth;
     pixels_.reserve(count);
     for (std::size_t x = 0; x < count; ++x) pixels_.push_back(indices[x / stripeWidth % 2]);
 }

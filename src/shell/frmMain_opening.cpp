@@ -2,6 +2,7 @@
 #include "archive/name_rules.h"
 #include "archive/opening.h"
 #include "archive/record_file.h"
+#include "forms/command.h"
 #include "pictures/picture.h"
 #include "shell/frmMain.h"
 #include "text/key_filter.h"
@@ -72,9 +73,10 @@ void frmMain::lstWords_Click() {
 
 void frmMain::cmdElabora_Click() { OpenAirport(before()); }
 
-/// Return in the name box: the button below it, unless there is nothing to open.
+/// Return in the name box: the button below it. Where there is nothing to open it is a key like any other.
 void frmMain::openTypedName() {
-    if (c->cmdElabora.isUsable() && !c->txtNomeAeroporto.text().isEmpty()) cmdElabora_Click();
+    if (!c->cmdElabora.isUsable() || c->txtNomeAeroporto.text().isEmpty()) return;
+    if (beginsCommand(c->txtNomeAeroporto.widget())) cmdElabora_Click();
 }
 
 void frmMain::OpenAirport(const Before& before) {

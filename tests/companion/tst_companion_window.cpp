@@ -111,6 +111,7 @@ private Q_SLOTS:
         QTRY_COMPARE(test.image()->size(), QSize(40, 30));
         test.choose(u"mnuNuovaproc"_s);
         test.click(u"Command4"_s); // once more nothing to show, and then a chart that is there
+        QTRY_COMPARE(test.boxes.shown.size(), 3);
         test.choose(u"mnuNuovaproc"_s);
         test.addChart(u"aeroporti/LIRF/Sid/Kenn1.GIF"_s, chart);
         test.click(u"Command4"_s);

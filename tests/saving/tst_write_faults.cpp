@@ -52,19 +52,6 @@ class WriteFaultsTest : public QObject {
     }
 
 private Q_SLOTS:
-    void aLimitOfFileSizesStopsEveryWriteAnywhere() {
-        for (const Saving what : allSavings)
-            for (const rlim_t limit : {0U, 1U, 10U, 300U, 1000U, 1803U, 5000U, 60'000U, 200'000U}) {
-                const QTemporaryDir folder;
-                QVERIFY(prepare(folder.path()));
-                const QString wrong = saveUnder(what, folder.path(), [&] {
-                    const FileSizeLimit limited(limit);
-                    return save(what, folder.path(), 1).ok();
-                });
-                QVERIFY2(wrong.isEmpty(), qPrintable(wrong + u" at %1"_s.arg(limit)));
-            }
-    }
-
     void aDiskThatIsFullStopsEveryWriteAnywhere() {
         inMemory([](Saving what, const QString& folder, const QString& disk) {
             // From no room at all, a page more each time, until the save succeeds.
@@ -85,30 +72,6 @@ private Q_SLOTS:
                 if (saved) return pages > 0 ? QString() : u"the disk was never full"_s;
             }
             return u"never saved"_s;
-        });
-    }
-
-    void aReadOnlyFileSystemIsToldAndLeftAlone() {
-        inMemory([](Saving what, const QString& folder, const QString& disk) {
-            if (!makeReadOnly(disk)) return u"not made read-only"_s;
-            bool saved = false;
-            const QString wrong = saveUnder(what, folder, [&] { return saved = save(what, folder, 1).ok(); });
-            if (saved || !ArchivePaths(folder).dataFile(u"KILL"_s).then(readRecord))
-                return u"saved on a read-only file system, or not read from it"_s;
-            return wrong;
-        });
-    }
-
-    void aFileThatCannotBeReplacedPutsTheOthersBack() {
-        inMemory([](Saving what, const QString& folder, const QString& /*disk*/) {
-            const QMap<Saving, QString> lastFile = {
-                {Saving::Record, u"/aeroporti/KILL/KILL_Agent.txt"_s},
-                {Saving::Notes, u"/aeroporti/KILL/Sid/DECOLLO_KENN.txt"_s},
-                {Saving::Language, u"/LangSetting.ini"_s}};
-            if (!nailDown(folder + lastFile[what])) return u"not nailed down"_s;
-            bool saved = false;
-            const QString wrong = saveUnder(what, folder, [&] { return saved = save(what, folder, 1).ok(); });
-            return saved ? u"replaced what cannot be"_s : wrong;
         });
     }
 

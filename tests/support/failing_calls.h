@@ -43,8 +43,10 @@ inline bool fails(const char* kind) {
     if (plan.how == How::AllFromThenOn) now = plan.turn > 0 && made >= plan.turn;
     if (plan.how == How::AllOfItsKindFromThenOn && failed) now = std::strcmp(kind, failed) == 0;
     if (std::strcmp(kind, "rename") == 0 && ++renames == plan.alsoRename) now = true;
-    errno = now ? plan.error : EINVAL;
-    return now || (plan.plain && (std::strcmp(kind, "link") == 0 || std::strcmp(kind, "renameat2") == 0));
+    const bool refused =
+        plan.plain && (std::strcmp(kind, "link") == 0 || std::strcmp(kind, "renameat2") == 0);
+    if (now || refused) errno = now ? plan.error : EINVAL; // a call that succeeds leaves it alone
+    return now || refused;
 }
 
 /// Runs something by a plan. Whether it made so many calls that one failed.

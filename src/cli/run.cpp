@@ -27,7 +27,7 @@ Said answerTo(const CommandLine& command, const ProgramFolder& folder) {
     case CommandLine::Deed::Refuse:
     case CommandLine::Deed::Start: break;
     }
-    return {{}, ownText(language, unknownWord).arg(command.subject), notUnderstood};
+    return {{}, filledIn(ownText(language, unknownWord), command.subject), notUnderstood};
 }
 
 void print(std::FILE* where, const QString& text) {

@@ -52,7 +52,8 @@ Said listVersions(const EarlierVersions& versions, modLanguageSupport& language,
                     firstLine(version, limitsFor(file).maxBytes) + u'\n';
     }
     if (!list.isEmpty()) return {list, {}};
-    return {{}, ownText(language, noVersions).arg(airport.isEmpty() ? u"aeroporti"_s : airport), notDone};
+    return {
+        {}, filledIn(ownText(language, noVersions), airport.isEmpty() ? u"aeroporti"_s : airport), notDone};
 }
 
 Said bringBack(const EarlierVersions& versions, modLanguageSupport& language, const QString& file,
@@ -61,12 +62,12 @@ Said bringBack(const EarlierVersions& versions, modLanguageSupport& language, co
         return Said{{}, ownText(language, notBroughtBack) + u'\n' + reasonText(language, failure), notDone};
     };
     const std::vector<EarlierVersion> kept = versions.versionsOf(file);
-    if (kept.empty()) return {{}, ownText(language, noVersions).arg(file), notDone};
+    if (kept.empty()) return {{}, filledIn(ownText(language, noVersions), file), notDone};
     if (static_cast<std::size_t>(number) > kept.size())
-        return {{}, ownText(language, noSuchNumber).arg(file, QString::number(number)), notDone};
+        return {{}, filledIn(ownText(language, noSuchNumber), file, QString::number(number)), notDone};
     const EarlierVersion& version = kept[static_cast<std::size_t>(number) - 1];
     if (const Result<void> done = versions.bringBack(file, version); !done) return refused(done.failure());
-    return {ownText(language, broughtBack).arg(file, when(version)), {}};
+    return {filledIn(ownText(language, broughtBack), file, when(version)), {}};
 }
 
 } // namespace quarvel

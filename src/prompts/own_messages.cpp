@@ -188,11 +188,20 @@ QString ownText(modLanguageSupport& language, const QString& number) {
     return found.isEmpty() ? builtInText(number) : found;
 }
 
+QString filledIn(const QString& text, const QString& first, const QString& second) {
+    QString filled;
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        const QStringView place = QStringView(text).mid(at, 2);
+        if (place == u"%1" || place == u"%2") ++at;
+        filled += place == u"%1" ? first : place == u"%2" ? second : QString(place.front());
+    }
+    return filled;
+}
+
 QString reasonText(modLanguageSupport& language, const Failure& failure) {
     const bool onlyMade = failure.fault == Fault::PartlyReplaced && failure.detail.isEmpty();
     const QString reason = ownText(language, onlyMade ? partlyMade : numberOf(failure.fault));
-    // Both places at once: a file's name may itself hold a percent sign.
-    return reason.contains(u"%2"_s) ? reason.arg(failure.path, failure.detail) : reason.arg(failure.path);
+    return filledIn(reason, failure.path, failure.detail);
 }
 
 QString standingText(modLanguageSupport& language, const QString& number) {

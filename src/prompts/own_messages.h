@@ -25,6 +25,10 @@ struct OwnMessage {
 /// are a line break.
 [[nodiscard]] QString ownText(modLanguageSupport& language, const QString& number);
 
+/// A text with its places %1 and %2 filled in, as far as it has them: a language file may lack either, and
+/// what is filled in may itself hold a percent sign.
+[[nodiscard]] QString filledIn(const QString& text, const QString& first, const QString& second = {});
+
 /// Why something failed, to which file, and what to do about it.
 [[nodiscard]] QString reasonText(modLanguageSupport& language, const Failure& failure);
 

@@ -45,7 +45,7 @@ Answer Prompts::askOwn(Form& form, const QString& prompt) {
 }
 
 QString Prompts::textOn(const QString& number, const QString& path) {
-    return text(number).arg(breakablePath(path));
+    return filledIn(text(number), breakablePath(path));
 }
 
 Answer Prompts::show(Form& form, const MessageBox& box) {
@@ -54,8 +54,8 @@ Answer Prompts::show(Form& form, const MessageBox& box) {
 }
 
 Answer Prompts::askAboutUnseen(Form& form, const QStringList& paths) {
-    const MessageBox box{text(u"0189"_s).arg(paths.join(u'\n')), text(u"0101"_s), Buttons::OkAgainCancel,
-                         BoxIcon::Exclamation};
+    const MessageBox box{filledIn(text(u"0189"_s), paths.join(u'\n')), text(u"0101"_s),
+                         Buttons::OkAgainCancel, BoxIcon::Exclamation};
     ButtonCaptions named = captions();
     named.ok = text(u"0190"_s);
     named.again = text(u"0191"_s);
@@ -78,11 +78,11 @@ void Prompts::tell(Form& form, Task task, const Failure& failure) {
 
 void Prompts::tellOf(Form& form, const Written& written) {
     if (!written.separated.isEmpty())
-        showOwn(form, text(otherNames).arg(readableName(written.separated.join(u'\n'))));
+        showOwn(form, filledIn(text(otherNames), readableName(written.separated.join(u'\n'))));
 }
 
 void Prompts::tell(Form& form, Task task, const QString& path) {
-    showOwn(form, text(numberOf(task)).arg(path));
+    showOwn(form, filledIn(text(numberOf(task)), path));
 }
 
 void Prompts::tell(Form& form, Task task) { showOwn(form, text(numberOf(task))); }

@@ -62,7 +62,7 @@ QString frmMain::hintFor(ArchiveState archive) {
     case ArchiveState::Empty: return standingText(language_, u"0150"_s);
     case ArchiveState::Unreadable: break;
     }
-    return standingText(language_, u"0153"_s).arg(breakablePath(paths_.archiveFolder()));
+    return filledIn(standingText(language_, u"0153"_s), breakablePath(paths_.archiveFolder()));
 }
 
 } // namespace quarvel

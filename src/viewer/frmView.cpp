@@ -114,9 +114,10 @@ void frmView::showHints() {
     if (!showsChart()) c->chartHint.showText(standingText(language_, u"0156"_s));
     const QString folder = c->File1.path();
     c->List1.setHint(folder.isEmpty() ? standingText(language_, u"0154"_s)
-                                      : standingText(language_, u"0155"_s).arg(breakablePath(folder)));
+                                      : filledIn(standingText(language_, u"0155"_s), breakablePath(folder)));
     const int others = countOtherFormats(c->File1.files());
-    c->List1.setRemark(others == 0 ? QString() : standingText(language_, u"0210"_s).arg(others));
+    c->List1.setRemark(others == 0 ? QString()
+                                   : filledIn(standingText(language_, u"0210"_s), QString::number(others)));
 }
 
 void frmView::beepIf(ZoomOutcome outcome) {

@@ -10,6 +10,7 @@
 #include <QPixmapCache>
 #include <chrono>
 #include <csignal>
+#include <cstring>
 #include <fcntl.h>
 #include <ftw.h>
 #include <malloc.h>

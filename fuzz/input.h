@@ -1,5 +1,7 @@
 #pragma once
 
+#include "files/result.h"
+
 #include <QByteArray>
 #include <cstddef>
 #include <cstdint>
@@ -14,6 +16,14 @@ inline QByteArray inputBytes(const std::uint8_t* data, std::size_t size) {
 /// What must hold of whatever was read; the input of a run in which it does not is kept as a finding.
 inline void mustHold(bool claim) {
     if (!claim) std::abort();
+}
+
+/// Whether what was read can be written; what cannot is refused for characters that the user is told.
+inline bool isWritten(const Result<QByteArray>& saved) {
+    if (saved) return true;
+    mustHold(saved.failure().fault == Fault::NotInCodePage || saved.failure().fault == Fault::Ambiguous);
+    mustHold(!saved.failure().detail.isEmpty());
+    return false;
 }
 
 } // namespace quarvel

@@ -8,6 +8,7 @@
 #include "platform/fitted_application.h"
 #include "platform/painting_thread.h"
 #include "platform/services.h"
+#include "platform/session_bus.h"
 #include "platform/window_system.h"
 #include "presenter/airport_presenter.h"
 #include "presenter/voice/espeak_voice.h"
@@ -40,6 +41,7 @@ int main(int argc, char** argv) {
     quarvel::outliveSizeLimits();
     if (const std::optional<int> status = runCommandLine(argc, argv)) return *status;
     quarvel::chooseWindowSystem();
+    quarvel::leaveSilentSessionBus();
     quarvel::settleEnvironment();
     quarvel::Beside fontList(quarvel::readFontList);
     quarvel::FittedApplication application(argc, argv);

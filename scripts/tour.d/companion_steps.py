@@ -3,6 +3,7 @@
 from accessible import above, expect
 from screen import active_states, click_at, drag, minimise, move_to, press, resize_to, title, turn_wheel
 from stage import AIRPORT
+from tray import silent_bus
 from windows import LARGER, SMALLER, natural_size
 
 ABOVE = "_NET_WM_STATE_ABOVE"
@@ -10,7 +11,8 @@ ABOVE = "_NET_WM_STATE_ABOVE"
 
 def link(stage, chart):
     companion, viewer = stage.companion, title()
-    with stage.step("&Link FS hides the viewer and shows the chart above every other window"):
+    with stage.step("&Link FS hides the viewer and shows the chart above every other window, "
+                    "be the session bus silent"), silent_bus():
         stage.viewer.choose("Command4")
         companion.expect_shown()
         stage.program.shown.no_window(viewer)

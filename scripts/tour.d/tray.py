@@ -1,11 +1,13 @@
 """Notification areas: one that takes icons' windows in, and one that is told of icons over the session bus."""
 
 import itertools
+import os
 import re
 import select
 import subprocess
 import sys
 import time
+from contextlib import contextmanager
 from pathlib import Path
 
 from accessible import Box, expect
@@ -13,6 +15,17 @@ from screen import SCALE, click_at, move_to
 
 PANEL = ("--edge", "bottom", "--align", "right", "--widthtype", "request", "--SetDockType", "true", "--expand", "true",
          "--transparent", "false")
+
+
+@contextmanager
+def silent_bus():
+    """The session bus takes calls and answers none."""
+    bus = ["-f", "--", f"--address={os.environ['DBUS_SESSION_BUS_ADDRESS']}"]
+    subprocess.run(["pkill", "-STOP", *bus], check=True)
+    try:
+        yield
+    finally:
+        subprocess.run(["pkill", "-CONT", *bus], check=True)
 
 
 class Tray:

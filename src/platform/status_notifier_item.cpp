@@ -1,6 +1,7 @@
 #include "platform/status_notifier_item.h"
 
 #include "platform/notification_area.h"
+#include "platform/session_bus.h"
 #include "platform/status_notifier_host.h"
 
 #include <QCoreApplication>
@@ -39,6 +40,14 @@ NotifierPixmaps pixmapsOf(const QIcon& picture) {
     return pixmaps;
 }
 
+/// A connection to the session bus; one that is not connected where the bus is silent, for Qt would wait for
+/// it.
+QDBusConnection connectUnlessSilent(const QString& name) {
+    return isSilentBus(sessionBusAddresses())
+               ? QDBusConnection(name)
+               : QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
+}
+
 } // namespace
 
 QDBusArgument& operator<<(QDBusArgument& argument, const NotifierPixmap& pixmap) {
@@ -71,8 +80,8 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierToolTip& 
 
 StatusNotifierItem::StatusNotifierItem(const QIcon& picture, const QString& tip, ShownIconEvents& events)
     : events_(events), connectionName_(u"icon-%1"_s.arg(nextNumber())),
-      bus_(QDBusConnection::connectToBus(QDBusConnection::SessionBus, connectionName_)),
-      category_(u"ApplicationStatus"_s), id_(u"quarvel"_s), title_(u"Quarvel"_s), status_(u"Active"_s),
+      bus_(connectUnlessSilent(connectionName_)), category_(u"ApplicationStatus"_s), id_(u"quarvel"_s),
+      title_(u"Quarvel"_s), status_(u"Active"_s),
       iconPixmap_(pixmapsOf(picture)), toolTip_{QString(), {}, tip, QString()}, menu_(u"/NO_DBUSMENU"_s) {
     qDBusRegisterMetaType<NotifierPixmap>();
     qDBusRegisterMetaType<NotifierPixmaps>();

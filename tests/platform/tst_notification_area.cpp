@@ -1,4 +1,5 @@
 #include "platform/desktop_notification_area.h"
+#include "platform/session_bus.h"
 #include "platform/status_notifier_item.h"
 
 #include <QDBusArgument>
@@ -7,6 +8,7 @@
 #include <QPixmap>
 #include <QProcess>
 #include <QTest>
+#include <csignal>
 #include <functional>
 #include <memory>
 
@@ -131,6 +133,26 @@ private Q_SLOTS:
         Q_EMIT host->StatusNotifierHostRegistered();
         QTRY_VERIFY(area.isThere());
         QCOMPARE(window.losses, 2);
+    }
+
+    void aSilentBusHoldsNothingUp() {
+        const Host host;
+        Window window;
+        DesktopNotificationArea area;
+        area.notifyIcon(NotifyAction::Add, record(), window);
+        QTRY_VERIFY(area.isThere());
+        area.notifyIcon(NotifyAction::Delete, record(), window);
+        const QByteArray addresses = sessionBusAddresses();
+        QVERIFY(!isSilentBus(addresses));
+        const auto daemon = static_cast<pid_t>(daemon_.processId());
+        ::kill(daemon, SIGSTOP);
+        area.notifyIcon(NotifyAction::Add, record(), window); // the toolkit alone would wait without end
+        leaveSilentSessionBus();
+        const QByteArray left = sessionBusAddresses();
+        qputenv("DBUS_SESSION_BUS_ADDRESS", addresses);
+        ::kill(daemon, SIGCONT);
+        QVERIFY(!area.isThere());
+        QCOMPARE(left, QByteArrayLiteral("disabled:"));
     }
 };
 

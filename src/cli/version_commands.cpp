@@ -1,8 +1,9 @@
 #include "cli/version_commands.h"
 
 #include "files/lookup.h"
+#include "files/system_name.h"
 #include "prompts/own_messages.h"
-#include "text/code_page.h"
+#include "text/decoding.h"
 
 #include <algorithm>
 
@@ -24,12 +25,12 @@ QString when(const EarlierVersion& version) {
     return version.kept.toLocalTime().toString(u"yyyy-MM-dd HH:mm:ss"_s);
 }
 
-/// The first line of a version. A terminal obeys control characters: none of them reaches it.
+/// The beginning of a version's first line. A terminal obeys control characters: none of them reaches it.
 QString firstLine(const EarlierVersion& version, qint64 maxBytes) {
     const Result<QByteArray> bytes = readWholeFile(version.path, maxBytes);
     if (!bytes || version.path.endsWith(u".gif", Qt::CaseInsensitive)) return {};
-    const QByteArray line = bytes.value().left(bytes.value().indexOf('\n')).left(shownSigns).trimmed();
-    QString shown = decodeCodePage(line);
+    const QString text = decodeText(bytes.value());
+    QString shown = text.left(text.indexOf(u'\n')).left(shownSigns).trimmed();
     std::replace_if(
         shown.begin(), shown.end(), [](QChar sign) { return !sign.isPrint(); }, u'.');
     return shown;
@@ -45,7 +46,7 @@ Said listVersions(const EarlierVersions& versions, modLanguageSupport& language,
     QString list;
     for (const QString& file : versions.files()) {
         if (!belongsTo(file, airport)) continue;
-        list += file + u'\n';
+        list += readableName(file) + u'\n';
         int number = 0;
         for (const EarlierVersion& version : versions.versionsOf(file))
             list += u"%1  %2  "_s.arg(++number, 4).arg(when(version)) +

@@ -1,29 +1,39 @@
 #include "files/folder_tree.h"
 
-#include <QDir>
-#include <QDirIterator>
-#include <QFile>
-#include <QFileInfo>
+#include "files/folder_reader.h"
+#include "files/system_name.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace quarvel {
+namespace {
+
+void addFilesOf(const QByteArray& folder, const QByteArray& below, std::vector<TreeFile>& files) {
+    FolderReader entries(folder);
+    while (const dirent* entry = entries.next()) {
+        const QByteArray name(entry->d_name);
+        const QByteArray path = folder + '/' + name;
+        struct stat info {};
+        if (name.startsWith('.') || ::lstat(path.constData(), &info) != 0) continue;
+        if (S_ISDIR(info.st_mode)) addFilesOf(path, below + name + '/', files);
+        if (S_ISREG(info.st_mode)) files.push_back({nameFromSystem(below + name), info.st_size});
+    }
+}
+
+} // namespace
 
 std::vector<TreeFile> filesBelow(const QString& folder) {
     std::vector<TreeFile> files;
-    const QDir top(folder);
-    QDirIterator entries(folder, QDir::Files | QDir::NoSymLinks, QDirIterator::Subdirectories);
-    while (entries.hasNext()) {
-        entries.next();
-        const QFileInfo info = entries.fileInfo();
-        files.push_back({top.relativeFilePath(info.filePath()), info.size()});
-    }
+    addFilesOf(systemName(folder), {}, files);
     return files;
 }
 
 void removeWithEmptyFolders(const QString& path, const QString& top) {
-    QFile::remove(path);
-    for (QString folder = QFileInfo(path).path(); folder.startsWith(top + u'/');
-         folder = QFileInfo(folder).path())
-        if (!QDir().rmdir(folder)) return; // something else is in it
+    ::unlink(systemName(path).constData());
+    for (QString folder = path.section(u'/', 0, -2); folder.startsWith(top + u'/');
+         folder = folder.section(u'/', 0, -2))
+        if (::rmdir(systemName(folder).constData()) != 0) return; // something else is in it
 }
 
 } // namespace quarvel

@@ -21,6 +21,7 @@ constexpr std::array meanings = {
     Meaning{ENAMETOOLONG, Fault::NotFound, Fault::BadName}, // no file can have such a name
     Meaning{EINVAL, Fault::ReadFailed, Fault::BadName},     // how FAT refuses a character in a name
     Meaning{EILSEQ, Fault::NotFound, Fault::BadName},
+    Meaning{EEXIST, Fault::ReadFailed, Fault::NotRegular}, // something else has the name
     Meaning{ELOOP, Fault::NotRegular, Fault::NotRegular},
     Meaning{EACCES, Fault::Unreadable, Fault::Unwritable},
     Meaning{EPERM, Fault::Unreadable, Fault::Unwritable},

@@ -54,7 +54,7 @@ Answer Prompts::show(Form& form, const MessageBox& box) {
 }
 
 Answer Prompts::askAboutUnseen(Form& form, const QStringList& paths) {
-    const MessageBox box{filledIn(text(u"0189"_s), paths.join(u'\n')), text(u"0101"_s),
+    const MessageBox box{filledIn(text(u"0189"_s), readableName(paths.join(u'\n'))), text(u"0101"_s),
                          Buttons::OkAgainCancel, BoxIcon::Exclamation};
     ButtonCaptions named = captions();
     named.ok = text(u"0190"_s);
@@ -82,7 +82,7 @@ void Prompts::tellOf(Form& form, const Written& written) {
 }
 
 void Prompts::tell(Form& form, Task task, const QString& path) {
-    showOwn(form, filledIn(text(numberOf(task)), path));
+    showOwn(form, filledIn(text(numberOf(task)), readableName(path)));
 }
 
 void Prompts::tell(Form& form, Task task) { showOwn(form, text(numberOf(task))); }

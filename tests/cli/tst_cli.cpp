@@ -48,7 +48,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(at(u"aeroporti/LIRF/Sid"_s)) && QDir().mkpath(kept));
         put(at(route_), "\"now\"\r\n");
         put(kept + u"/2026-01-01 10.00.00.000Z.txt"_s, "\"citt\xE0 \x1B[31m\"\r\n");
-        put(kept + u"/2026-02-01 10.00.00.000Z.txt"_s, "\"newer\"\r\n");
+        put(kept + u"/2026-02-01 10.00.00.000Z.txt"_s, "\"pi\xC3\xB9\"\r\n");
     }
 
     void theProgramTakesNoWordsButItsOwn() {
@@ -78,7 +78,7 @@ private Q_SLOTS:
         const QStringList lines = list.out.split(u'\n');
         QCOMPARE(lines.size(), 4);
         QCOMPARE(lines[0], route_);
-        QVERIFY(lines[1].contains(u"1  2026-02-01"_s) && lines[1].endsWith(u"\"newer\""_s));
+        QVERIFY(lines[1].contains(u"1  2026-02-01"_s) && lines[1].endsWith(u"\"pi\u00F9\""_s));
         QVERIFY(lines[2].endsWith(u"\"citt\u00E0 .[31m\""_s)); // no control character reaches the terminal
         QCOMPARE(run({u"versions"_s}).out, list.out);
         QCOMPARE(run({u"versions"_s, u"LIML"_s}).status, 1);
@@ -86,7 +86,7 @@ private Q_SLOTS:
         QCOMPARE(run({u"bring-back"_s, u"../x"_s, u"1"_s}).status, 1);
 
         QVERIFY(run({u"bring-back"_s, route_, u"1"_s}).out.contains(route_));
-        QCOMPARE(bytesOf(at(route_)), "\"newer\"\r\n");
+        QCOMPARE(bytesOf(at(route_)), "\"pi\xC3\xB9\"\r\n");
         QCOMPARE(run({u"bring-back"_s, route_, u"1"_s}).status, 0); // what was there before
         QCOMPARE(bytesOf(at(route_)), "\"now\"\r\n");
     }

@@ -26,7 +26,7 @@ public:
         if (rest_.front() == u'"') {
             rest_ = rest_.sliced(1);
             const QStringView value = takeUntil([](QChar letter) { return letter == u'"'; });
-            takeUntil(isSeparator);
+            if (isAnything(takeUntil(isSeparator))) passedOver_ = true;
             skipSeparator();
             return value;
         }
@@ -36,7 +36,11 @@ public:
         return value;
     }
 
+    /// Whether there is text that was taken for no value, or is not taken yet.
+    [[nodiscard]] bool holdsMore() const { return passedOver_ || isAnything(rest_); }
+
 private:
+    static bool isAnything(QStringView text) { return !text.trimmed().isEmpty(); }
     static bool isBlank(QChar letter) { return letter == u' ' || letter == u'\t'; }
     static bool isSeparator(QChar letter) { return letter == u',' || letter == u'\r' || letter == u'\n'; }
 
@@ -54,6 +58,7 @@ private:
     }
 
     QStringView rest_;
+    bool passedOver_ = false;
 };
 
 } // namespace
@@ -89,6 +94,13 @@ Result<AirportRecord> parseRecord(const QByteArray& bytes, const QString& path) 
         ++count;
     }
     return record;
+}
+
+bool holdsMoreThanRecord(const QByteArray& bytes) {
+    const QString text = decodeText(bytes);
+    ValueReader reader(text);
+    for (int count = 0; count < recordSize && reader.next(); ++count) {}
+    return reader.holdsMore();
 }
 
 Result<AirportRecord> readRecord(const QString& path) {

@@ -28,6 +28,10 @@ inline constexpr qint64 largestRecordBytes = qint64{1024} * 1024;
 /// Fails with TooShort (detail: how many values there are).
 [[nodiscard]] Result<AirportRecord> parseRecord(const QByteArray& bytes, const QString& path);
 
+/// Whether a data file holds more than the record that is read from it, which a save would take away:
+/// anything but blanks and line ends behind a closing quote or behind the 39th value.
+[[nodiscard]] bool holdsMoreThanRecord(const QByteArray& bytes);
+
 /// Reads a data file. Fails with the faults of readWholeFile and parseRecord.
 [[nodiscard]] Result<AirportRecord> readRecord(const QString& path);
 

@@ -8,6 +8,16 @@
 #include <QFileInfo>
 
 namespace quarvel {
+namespace {
+
+constexpr qint64 largestTextBytes = qint64{16} * 1024 * 1024; // as the presenter reads
+
+bool isSeen(const QByteArray& dataFile, const std::optional<AirportRecord>& shown) {
+    const Result<AirportRecord> record = parseRecord(dataFile, {});
+    return shown && record && record.value().values == shown->values && !holdsMoreThanRecord(dataFile);
+}
+
+} // namespace
 
 Result<Written> saveAirport(const ArchivePaths& paths, const QString& name, const AirportRecord& record,
                             const BeforeReplacing& beforeReplacing) {
@@ -30,6 +40,26 @@ Result<Written> saveAirport(const ArchivePaths& paths, const QString& name, cons
     if (!written && folders.value() == AirportFolders::Made)
         removeEmptyAirportFolders(QFileInfo(presenterText.value()).path());
     return written;
+}
+
+Result<std::vector<FileContent>> unseenFiles(const ArchivePaths& paths, const QString& name,
+                                             const QString& icao, const std::optional<AirportRecord>& shown) {
+    std::vector<FileContent> unseen;
+    const auto look = [&unseen](const Result<QString>& path, qint64 maxBytes, auto isSeen) {
+        const Result<QByteArray> bytes =
+            path.then([&](const QString& found) { return readWholeFile(found, maxBytes); });
+        if (!bytes)
+            return bytes.failure().fault == Fault::NotFound ? Result<void>() : Result<void>(bytes.failure());
+        if (!isSeen(bytes.value())) unseen.push_back({path.value(), bytes.value()});
+        return Result<void>();
+    };
+    const Result<void> record = look(paths.dataFileForWriting(name), largestRecordBytes,
+                                     [&shown](const QByteArray& bytes) { return isSeen(bytes, shown); });
+    if (!record) return record.failure();
+    const Result<void> text = look(paths.presenterTextForWriting(name, icao), largestTextBytes,
+                                   [](const QByteArray& bytes) { return bytes.trimmed().isEmpty(); });
+    if (!text) return text.failure();
+    return unseen;
 }
 
 } // namespace quarvel

@@ -5,6 +5,8 @@
 #include "files/whole_file.h"
 
 #include <QString>
+#include <optional>
+#include <vector>
 
 namespace quarvel {
 
@@ -16,5 +18,12 @@ namespace quarvel {
 [[nodiscard]] Result<Written> saveAirport(const ArchivePaths& paths, const QString& name,
                                           const AirportRecord& record,
                                           const BeforeReplacing& beforeReplacing = {});
+
+/// Of the files that saveAirport replaces, those that hold what nobody has seen who knows the record `shown`
+/// (none for a new airport): a data file that is another record, or more than one, and a presenter text,
+/// which the save empties. Fails with the faults of readWholeFile.
+[[nodiscard]] Result<std::vector<FileContent>> unseenFiles(const ArchivePaths& paths, const QString& name,
+                                                           const QString& icao,
+                                                           const std::optional<AirportRecord>& shown);
 
 } // namespace quarvel

@@ -40,10 +40,10 @@ QString modLanguageSupport::MLSGetString(const QString& number) {
     return text ? text.take() : QString();
 }
 
-QStringList modLanguageSupport::languages() const {
+Result<QStringList> modLanguageSupport::languages() const {
+    const Result<QStringList> files = listFiles(programFolder_);
+    if (!files) return files.failure();
     QStringList names;
-    Result<QStringList> files = listFiles(programFolder_);
-    if (!files) return names;
     for (const QString& file : files.value()) {
         // Composed, as the setting file will give the name back: it is compared exactly.
         const QString name = StripExtension(readableName(file)).normalized(QString::NormalizationForm_C);

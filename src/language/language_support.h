@@ -29,8 +29,8 @@ public:
     void MLSApplyLanguage(ControlWindow& window) const;
 
     /// The names of the language files (without ".lng") of the program folder, by name without regard to
-    /// case.
-    [[nodiscard]] QStringList languages() const;
+    /// case. Fails with the faults of listFiles.
+    [[nodiscard]] Result<QStringList> languages() const;
 
     /// Why the current language's texts cannot be had although it has a file. A language without one is not a
     /// failure: the windows keep the texts that they have.

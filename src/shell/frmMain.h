@@ -15,6 +15,8 @@
 #include <QString>
 #include <QStringList>
 #include <optional>
+#include <set>
+#include <utility>
 
 namespace quarvel {
 
@@ -83,6 +85,7 @@ private:
     void cmdSave_Click();
     [[nodiscard]] bool CheckIcaoCode();
     [[nodiscard]] AirportRecord typedRecord() const;
+    [[nodiscard]] Answer askAboutUnseen(const QString& icao);
     void backToEditing();
     void endAfterSaving();
 
@@ -111,6 +114,8 @@ private:
 
     // Language (frmMain_language.cpp)
     void MLSFillMenuLanguages();
+    void findLanguages();
+    [[nodiscard]] int languageCount() const;
     void setCurrentLanguageAtStart();
     void tellUnreadableLanguage();
     void remember(const QString& language);
@@ -126,10 +131,12 @@ private:
     Presenter& presenter_;
 
     ArchiveSearch search_;
-    std::optional<QStringList> languages_; ///< the language list, built once per run
-    QString presenterTextPath_;            ///< of the open airport
-    QStringList madeFolders_;              ///< airports whose folders were made while this one is entered
-    bool toldForgetting_ = false;          ///< that the chosen language cannot be remembered
+    std::optional<QStringList> languages_;     ///< the language list, built once per run
+    QString presenterTextPath_;                ///< of the open airport
+    QStringList madeFolders_;                  ///< airports whose folders were made while this one is entered
+    std::optional<AirportRecord> recordShown_; ///< that the fields began with; none for a new airport
+    std::set<std::pair<QString, QByteArray>> asked_; ///< files and contents that a save may replace unseen
+    bool toldForgetting_ = false;                    ///< that the chosen language cannot be remembered
 };
 
 } // namespace quarvel

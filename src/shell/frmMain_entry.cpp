@@ -73,6 +73,13 @@ void frmMain::cmdSave_Click() {
         return;
     }
     const AirportRecord record = typedRecord();
+    const Answer unseen = askAboutUnseen(storableValue(record.values[IcaoCode]));
+    if (c == nullptr) return;
+    if (unseen != Answer::Ok) {
+        backToEditing();
+        if (unseen == Answer::Again) cmdElabora_Click();
+        return;
+    }
     const Result<Written> saved = saveAirport(paths_, c->txtNomeAeroporto.text(), record, beforeReplacing_);
     if (!saved) {
         prompts_.tell(*this, Task::SaveAirport, saved.failure());
@@ -82,6 +89,19 @@ void frmMain::cmdSave_Click() {
     state_.CurrentIcao = storableValue(record.values[IcaoCode]);
     prompts_.tellOf(*this, saved.value());
     if (c != nullptr) endAfterSaving();
+}
+
+/// Asks once for a file and its content; Ok where there is nothing to ask.
+Answer frmMain::askAboutUnseen(const QString& icao) {
+    const auto files = unseenFiles(paths_, c->txtNomeAeroporto.text(), icao, recordShown_);
+    if (!files) {
+        prompts_.tell(*this, Task::SaveAirport, files.failure());
+        return Answer::Cancel;
+    }
+    QStringList unseen;
+    for (const FileContent& file : files.value())
+        if (asked_.emplace(file.path, file.bytes).second) unseen.append(file.path);
+    return unseen.isEmpty() ? Answer::Ok : prompts_.askAboutUnseen(*this, unseen);
 }
 
 void frmMain::endAfterSaving() {

@@ -7,17 +7,9 @@ using namespace Qt::StringLiterals;
 namespace quarvel {
 
 void frmMain::MLSFillMenuLanguages() {
-    const bool firstLoading = !languages_.has_value();
-    if (firstLoading) {
-        languages_ = language_.languages();
-        if (languages_->isEmpty())
-            prompts_.showFixed(*this, u"Non è presente alcun file di linguaggio!"_s);
-        else
-            setCurrentLanguageAtStart();
-        tellUnreadableLanguage();
-    }
+    if (!languages_) findLanguages();
     c->mnuLanguage[0].clicked.calls(this, &frmMain::mnuLanguage_Click, 0);
-    for (int k = 0; k < languages_->size(); ++k) {
+    for (int k = 0; k < languageCount(); ++k) {
         if (k > 0) {
             MenuItem& item =
                 c->mnuLanguage.add(c->form, {.name = "mnuLanguage", .index = k}, c->mnuLanguages.menu());
@@ -25,12 +17,28 @@ void frmMain::MLSFillMenuLanguages() {
         }
         c->mnuLanguage[k].setCaption(languages_->at(k));
     }
-    const qsizetype current = languages_->indexOf(state_.MLSCurrentLanguage);
+    const qsizetype current = languages_.value_or(QStringList()).indexOf(state_.MLSCurrentLanguage);
     if (current >= 0) c->mnuLanguage[static_cast<int>(current)].setChecked(true);
     c->ImgLingua.forEach([this](int index, Image& flag) {
-        flag.setUsable(index < languages_->size() ? Usable::Yes : Usable::No);
+        flag.setUsable(index < languageCount() ? Usable::Yes : Usable::No);
     });
 }
+
+void frmMain::findLanguages() {
+    Result<QStringList> found = language_.languages();
+    if (!found && found.failure().fault != Fault::NotFound) { // looked for again when the window comes back
+        prompts_.tell(*this, Task::ReadLanguage, found.failure());
+        return;
+    }
+    languages_ = found.valueOr({});
+    if (languages_->isEmpty())
+        prompts_.showFixed(*this, u"Non è presente alcun file di linguaggio!"_s);
+    else
+        setCurrentLanguageAtStart();
+    tellUnreadableLanguage();
+}
+
+int frmMain::languageCount() const { return languages_ ? static_cast<int>(languages_->size()) : 0; }
 
 void frmMain::setCurrentLanguageAtStart() {
     if (const Result<QString> setting = language_.settingLanguage()) {
@@ -48,7 +56,7 @@ void frmMain::tellUnreadableLanguage() {
 }
 
 void frmMain::ImgLingua_Click(int index) {
-    if ((index == 0 || index == 1) && index < languages_->size()) SelectLanguage(index);
+    if ((index == 0 || index == 1) && index < languageCount()) SelectLanguage(index);
 }
 
 void frmMain::mnuLanguage_Click(int index) { SelectLanguage(index); }

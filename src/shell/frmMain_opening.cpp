@@ -122,6 +122,7 @@ void frmMain::startNewAirport(const QString& name, const Before& before) {
         prompts_.tell(*this, refusedName ? Task::NameAirport : Task::MakeFolders, made.failure());
         return;
     }
+    recordShown_.reset();
     if (made.value() == AirportFolders::Made) madeFolders_.append(paths_.airportFolder(name).valueOr({}));
     ShowAirportData();
     c->Frame5.setShown(Shown::No);
@@ -150,6 +151,7 @@ void frmMain::showAirport(const QString& name, const Before& before) {
         prompts_.tell(*this, Task::ReadAirportPicture, picture.failure());
         return;
     }
+    recordShown_ = record.value();
     fillFields(record.value());
     presentAirport(name);
     HideDecorations();

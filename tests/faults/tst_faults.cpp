@@ -115,8 +115,8 @@ private Q_SLOTS:
     void aFolderThatCannotBeReadForAMomentIsToldAndNotTakenForEmpty() {
         const auto test = started();
         test->write(u"aeroporti/LIRF/Sid/ROTTA_KENN.txt"_s, "\"VIA\"\r\n");
-        const auto failing = [](const std::function<void()>& use) {
-            failing_calls::Plan plan{1, EIO};
+        const auto failing = [](const std::function<void()>& use, int call = 1) {
+            failing_calls::Plan plan{call, EIO};
             plan.only = "opendir";
             QVERIFY(failing_calls::run(plan, use));
         };
@@ -124,6 +124,9 @@ private Q_SLOTS:
             return lastTold(*test).contains(builtInText(task)) &&
                    lastTold(*test).contains(builtInText(u"0170"_s).section(u'\n', 0, 0));
         };
+        failing([&] { test->start(); }, 4); // the list of languages
+        QVERIFY(toldOf(u"0123"_s));
+        test->start();
         failing([&] { test->type(u"L"_s); });
         QVERIFY(says(test->mainWindow(), u"lstWords"_s, test->path(u"aeroporti"_s)));
         enter(*test, u"LIRF"_s);

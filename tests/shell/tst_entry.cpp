@@ -123,6 +123,30 @@ private Q_SLOTS:
         QVERIFY(QFile::exists(test.presenter.loaded.last())); // the text that the save made
     }
 
+    void whatASaveWouldReplaceUnseenIsAskedAboutOnce() {
+        NewAirport test;
+        const QString text = u"aeroporti/NEW/LIRX_Agent.txt"_s;
+        const auto save = [&test](Answer unseen) {
+            test.boxes.shown.clear();
+            test.boxes.answers = {Answer::Ok, unseen};
+            test.click(u"cmdSave"_s);
+        };
+        test.write(text, "\"Benvenuti\""); // by hand, before the record
+        test.enter(IcaoCode, u"LIRX"_s);
+        save(Answer::Cancel);
+        QVERIFY(test.boxes.shown.last().text.contains(test.path(text)));
+        QVERIFY(!test.end.ended && !test.field(20)->isReadOnly());
+        QCOMPARE(test.read(text), "\"Benvenuti\"");
+        test.addAirport(u"NEW"_s); // by somebody else, meanwhile
+        const QByteArray record = test.read(u"aeroporti/NEW/Aeroporto/NEW.txt"_s);
+        save(Answer::Again);
+        QCOMPARE(test.field(IcaoCode)->text(), u"NEW"_s); // what the disk holds
+        QVERIFY(!test.field(20)->isReadOnly());
+        QCOMPARE(test.read(u"aeroporti/NEW/Aeroporto/NEW.txt"_s), record);
+        save(Answer::Ok);
+        QVERIFY(test.end.ended && test.boxes.shown.size() == 2); // it has been seen
+    }
+
     void aFailedSaveCanBeTriedAgain() {
         NewAirport test;
         test.enter(IcaoCode, u"LIRF"_s);

@@ -5,6 +5,7 @@
 #include "install/starter.h"
 #include "platform/beside.h"
 #include "platform/desktop_notification_area.h"
+#include "platform/end_signals.h"
 #include "platform/fitted_application.h"
 #include "platform/painting_thread.h"
 #include "platform/services.h"
@@ -77,5 +78,7 @@ int main(int argc, char** argv) {
         folder, {messageBoxes, sounds, printer, urls, screen, process, beeper, notificationArea}, presenter);
     if (!laidOut) program.tell(quarvel::Task::PrepareProgramFolder, laidOut.failure());
     program.show(quarvel::WindowName::frmMain);
+    const quarvel::EndSignals requests([&program] { program.end(); });
+    QObject::connect(&*application, &QGuiApplication::commitDataRequest, [&program] { program.flush(); });
     return QApplication::exec();
 }

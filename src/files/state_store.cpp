@@ -31,6 +31,11 @@ StateStore::StateStore(QString folder, FolderAccess access, Report report)
     : folder_(std::move(folder)), access_(access), report_(std::move(report)) {}
 
 QByteArray StateStore::read(const StateName& name) {
+    const std::scoped_lock lock(inUse_);
+    return contentOf(name);
+}
+
+QByteArray StateStore::contentOf(const StateName& name) {
     Known& known = known_[name.name];
     known.looked = true;
     if (known.notKept) return *known.notKept;
@@ -47,8 +52,9 @@ QByteArray StateStore::read(const StateName& name) {
 }
 
 void StateStore::write(const StateName& name, const QByteArray& content) {
+    const std::scoped_lock lock(inUse_);
     if (!known_[name.name].looked)
-        static_cast<void>(read(name)); // lest a file be replaced that nobody could use
+        static_cast<void>(contentOf(name)); // lest a file be replaced that nobody could use
     Known& known = known_[name.name];
     const Result<void> written = writeFile(name, content);
     known.notKept = written ? std::nullopt : std::optional(content);

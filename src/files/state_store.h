@@ -8,6 +8,7 @@
 #include <QString>
 #include <functional>
 #include <map>
+#include <mutex>
 #include <optional>
 
 namespace quarvel {
@@ -19,7 +20,8 @@ enum class StateTrouble {
 
 /// What the program remembers by itself, one file a name, each with one reader and one writer. It is not the
 /// user's work: all of it may be deleted at any time. Where it cannot be written it is remembered for the
-/// run. The store reports both troubles by itself: for whoever uses it, there is always a content.
+/// run. The store reports both troubles by itself, in the thread of whoever called it: for its users there is
+/// always a content. It may be used from any thread.
 class StateStore {
 public:
     using Report = std::function<void(StateTrouble, const Failure&)>;
@@ -35,6 +37,8 @@ public:
     void write(const StateName& name, const QByteArray& content);
 
 private:
+    [[nodiscard]] QByteArray contentOf(const StateName& name);
+
     /// What this run knows of one name.
     struct Known {
         bool looked = false; ///< the file has been looked at
@@ -47,6 +51,7 @@ private:
     void reportNotKept(const Failure& why);
     [[nodiscard]] Result<void> writeFile(const StateName& name, const QByteArray& content) const;
 
+    std::mutex inUse_;
     QString folder_;
     FolderAccess access_;
     Report report_;

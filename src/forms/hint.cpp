@@ -60,6 +60,25 @@ void Hint::showText(const QString& text) {
     label_->setVisible(!text.isEmpty());
 }
 
+Strip::Strip(QWidget& in) : label_(new QLabel(&in)) {
+    label_->setTextFormat(Qt::PlainText);
+    label_->setAlignment(Qt::AlignCenter);
+    label_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    applyLook(*label_, {.text = colour::ink, .background = colour::draft});
+    label_->hide();
+}
+
+void Strip::showText(const QString& text) {
+    label_->setText(text);
+    label_->setVisible(!text.isEmpty());
+}
+
+int Strip::height() const { return label_->isHidden() ? 0 : label_->sizeHint().height(); }
+
+void Strip::placeBelow(const QRect& part) {
+    label_->setGeometry(part.left(), part.bottom() + 1, part.width(), height());
+}
+
 QString breakablePath(const QString& path) { return readableName(path).replace(u"/"_s, u"/\u200B"_s); }
 
 } // namespace quarvel

@@ -26,6 +26,22 @@ private:
     QLabel* label_;
 };
 
+/// A line of text along the lower edge of a widget, in colours that stand out from it.
+class Strip {
+public:
+    explicit Strip(QWidget& in);
+
+    /// An empty text hides the strip.
+    void showText(const QString& text);
+    /// In pixels; 0 while it is hidden.
+    [[nodiscard]] int height() const;
+    /// Places it under a part of the widget.
+    void placeBelow(const QRect& part);
+
+private:
+    QLabel* label_;
+};
+
 /// A path as people read it, which a narrow text can break after any of its folders.
 [[nodiscard]] QString breakablePath(const QString& path);
 

@@ -1,6 +1,7 @@
 #include "forms/list_box.h"
 
 #include "forms/command.h"
+#include "forms/look.h"
 #include "forms/press_key.h"
 
 #include <QAbstractListModel>
@@ -10,6 +11,7 @@
 #include <QListView>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPolygonF>
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <utility>
@@ -34,27 +36,71 @@ public:
 
     int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : count_; }
     QVariant data(const QModelIndex& index, int role) const override {
-        const bool asked = role == Qt::DisplayRole || role == Qt::ToolTipRole;
-        return asked && index.isValid() ? QVariant(row_(index.row())) : QVariant();
+        if (!index.isValid()) return {};
+        if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return row_(index.row());
+        return role == Qt::AccessibleDescriptionRole && isSigned(index.row()) ? spokenSign : QVariant();
     }
+    [[nodiscard]] bool isMarked(int row) const { return marked && marked(row_(row)); }
+
+    std::function<bool(const QString&)> marked;
+    QString spokenMark;
+    void signsChanged() {
+        if (count_ > 0) Q_EMIT dataChanged(index(0), index(count_ - 1), {Qt::AccessibleDescriptionRole});
+    }
+    [[nodiscard]] bool isSigned(int row) const { return bearsSign && bearsSign(row_(row)); }
+
+    std::function<bool(const QString&)> bearsSign;
+    QString spokenSign;
 
 private:
     int count_ = 0;
     std::function<QString(int)> row_;
 };
 
-/// Rows as wide as the list, whatever their texts.
+/// Rows as wide as the list, whatever their texts; a row's sign at its end, which its text leaves free.
 class RowsDelegate : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit RowsDelegate(const RowsModel& rows) : rows_(rows) {}
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         return {1, QStyledItemDelegate::sizeHint(option, index).height()};
     }
-    /// Pixels that a row's whole text takes.
-    [[nodiscard]] int textWidth(const QStyleOptionViewItem& option, const QModelIndex& index) const {
-        return QStyledItemDelegate::sizeHint(option, index).width();
+    /// Pixels that a row's whole text takes, with its sign.
+    [[nodiscard]] int wholeWidth(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+        const QSize text = QStyledItemDelegate::sizeHint(option, index);
+        return text.width() + (rows_.isSigned(index.row()) ? signWidth(text.height()) : 0);
     }
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        if (!rows_.isSigned(index.row())) return QStyledItemDelegate::paint(painter, option, index);
+        QStyleOptionViewItem row = option;
+        initStyleOption(&row, index);
+        const int height = row.rect.height();
+        const int free = row.rect.width() - signWidth(height);
+        row.text = row.fontMetrics.elidedText(row.text, Qt::ElideRight, free);
+        row.widget->style()->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+        drawSign(*painter, QRect(row.rect.left() + free, row.rect.top(), height, height));
+    }
+
+private:
+    [[nodiscard]] static int signWidth(int rowHeight) { return rowHeight + rowHeight / 2; }
+
+    /// A pencil with an edge that shows on every ground.
+    static void drawSign(QPainter& painter, const QRect& place) {
+        constexpr double edge = 0.08; // of the sign's height
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(place.topLeft());
+        painter.scale(place.width(), place.height());
+        painter.setPen(QPen(colour::ink, edge, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+        painter.setBrush(colour::draft);
+        painter.drawPolygon(
+            QPolygonF({{0.12, 0.88}, {0.2, 0.6}, {0.66, 0.14}, {0.86, 0.34}, {0.4, 0.8}})); // from the tip
+        painter.drawLine(QPointF(0.2, 0.6), QPointF(0.4, 0.8));
+        painter.restore();
+    }
+
+    const RowsModel& rows_;
 };
 
 class RowsView : public QListView {
@@ -145,10 +191,10 @@ private:
         if (!index.isValid()) return false;
         QStyleOptionViewItem option;
         initViewItemOption(&option);
-        return delegate_.textWidth(option, index) > visualRect(index).width();
+        return delegate_.wholeWidth(option, index) > visualRect(index).width();
     }
 
-    RowsDelegate delegate_;
+    RowsDelegate delegate_{rows};
     bool pressedOnRow_ = false;
 };
 
@@ -207,6 +253,15 @@ Setting ListBox::setToolTip(const QString& text) {
     showHint();
     return Setting::Done;
 }
+
+void ListBox::setSigns(std::function<bool(const QString&)> bearsSign, const QString& spoken) {
+    auto& rows = static_cast<RowsView&>(widget()).rows;
+    rows.bearsSign = std::move(bearsSign);
+    rows.spokenSign = spoken;
+    signsChanged();
+}
+
+void ListBox::signsChanged() { static_cast<RowsView&>(widget()).rows.signsChanged(); }
 
 int ListBox::count() const { return view().model()->rowCount(); }
 

@@ -49,6 +49,11 @@ public:
     void select(int row);
     void setMark(Mark mark);
 
+    /// Which rows bear a sign, by their texts, and what assistive tools say of these.
+    void setSigns(std::function<bool(const QString&)> bearsSign, const QString& spoken);
+    /// Asks again.
+    void signsChanged();
+
     /// Characters that look for no row but are the window's keys.
     void leaveToWindow(const QString& characters);
 

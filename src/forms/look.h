@@ -29,7 +29,8 @@ inline constexpr QColor panel{224, 224, 224};
 inline constexpr QColor results{128, 64, 64};
 inline constexpr QColor ink{24, 26, 64};
 inline constexpr QColor paper{250, 250, 252};
-inline constexpr QColor mark{58, 66, 160}; ///< what is chosen, held or has the focus
+inline constexpr QColor mark{58, 66, 160};    ///< what is chosen, held or has the focus
+inline constexpr QColor draft{255, 236, 150}; ///< what was typed and is not saved
 } // namespace colour
 
 [[nodiscard]] QFont fontOf(const Look& look);

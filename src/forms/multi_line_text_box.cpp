@@ -1,3 +1,4 @@
+#include "forms/hint.h"
 #include "forms/text_box.h"
 #include "forms/typing.h"
 
@@ -31,9 +32,23 @@ class NotesEdit : public QPlainTextEdit {
 public:
     explicit NotesEdit(TextBoxEvents& events) : events_(events) {}
     int longest = 0;
+    bool settingText = false; ///< the program changes the text, not the user
+
+    void showOffer(const MultiLineTextBox::Offer& offer) {
+        if (offer.hint.isEmpty() && events_.offered == Offered::No) return;
+        const bool empty = document()->isEmpty();
+        hint_.showText(empty ? offer.hint : QString());
+        strip_.showText(empty ? QString() : offer.strip);
+        setAccessibleDescription(offer.hint);
+        // The text ends above the strip, so that its last line can still be seen.
+        setViewportMargins(0, 0, 0, strip_.height());
+        events_.offered = offer.hint.isEmpty() ? Offered::No : Offered::Yes;
+    }
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
+        const OwnUndo undo = document()->isUndoAvailable() ? OwnUndo::Something : OwnUndo::Nothing;
+        if (!isReadOnly() && isUsedByOffer(events_, *event, undo)) return;
         const bool inserts =
             !event->text().isEmpty() && (event->text().front().isPrint() || event->key() == Qt::Key_Return ||
                                          event->key() == Qt::Key_Enter || event->key() == Qt::Key_Tab);
@@ -51,6 +66,10 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override {
         QPlainTextEdit::keyReleaseEvent(event);
         if (!event->isAutoRepeat()) events_.keyUp.raise(event->key());
+    }
+    void resizeEvent(QResizeEvent* event) override {
+        QPlainTextEdit::resizeEvent(event);
+        strip_.placeBelow(viewport()->geometry());
     }
     void focusOutEvent(QFocusEvent* event) override {
         QPlainTextEdit::focusOutEvent(event);
@@ -106,6 +125,8 @@ private:
 
     bool movesInside_ = false;
     TextBoxEvents& events_;
+    Hint hint_{*viewport()};
+    Strip strip_{*this};
 };
 
 } // namespace
@@ -118,13 +139,29 @@ MultiLineTextBox::MultiLineTextBox(Container& container, const ControlSpec& spec
     QTextOption option = edit().document()->defaultTextOption();
     option.setAlignment(spec.align & Qt::AlignHorizontal_Mask);
     edit().document()->setDefaultTextOption(option);
+    QObject::connect(&edit(), &QPlainTextEdit::textChanged, &edit(), [this] {
+        if (!static_cast<NotesEdit&>(edit()).settingText) events.edited.raise();
+    });
 }
 
 QPlainTextEdit& MultiLineTextBox::edit() const { return static_cast<QPlainTextEdit&>(widget()); }
 
 QString MultiLineTextBox::text() const { return withLineFeeds(edit().document()->toRawText()); }
 
-void MultiLineTextBox::setText(const QString& text) { edit().setPlainText(text); }
+void MultiLineTextBox::setText(const QString& text) {
+    const QScopedValueRollback setting(static_cast<NotesEdit&>(edit()).settingText, true);
+    edit().setPlainText(text);
+}
+
+void MultiLineTextBox::replaceText(const QString& text) {
+    QTextCursor all(edit().document());
+    all.select(QTextCursor::Document);
+    all.insertText(text);
+}
+
+bool MultiLineTextBox::hasOwnUndo() const { return edit().document()->isUndoAvailable(); }
+
+void MultiLineTextBox::showOffer(const Offer& offer) { static_cast<NotesEdit&>(edit()).showOffer(offer); }
 
 void MultiLineTextBox::setLongestTyped(int characters) {
     static_cast<NotesEdit&>(edit()).longest = characters;

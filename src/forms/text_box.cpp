@@ -78,6 +78,8 @@ protected:
         return QLineEdit::event(event);
     }
     void keyPressEvent(QKeyEvent* event) override {
+        const OwnUndo undo = isUndoAvailable() ? OwnUndo::Something : OwnUndo::Nothing;
+        if (!isReadOnly() && isUsedByOffer(events_, *event, undo)) return;
         QKeyEvent filtered = filteredKeyPress(events_, *event);
         {
             const QScopedValueRollback typing(typing_, !event->matches(QKeySequence::Paste));
@@ -147,6 +149,7 @@ TextBox::TextBox(Container& container, const ControlSpec& spec)
     edit().setText(QString::fromUtf16(spec.caption));
     QObject::connect(&edit(), &QLineEdit::textChanged, &edit(),
                      [this](const QString& text) { static_cast<LineEdit&>(edit()).limit.follow(text); });
+    QObject::connect(&edit(), &QLineEdit::textEdited, &edit(), [this] { events.edited.raise(); });
 }
 
 QLineEdit& TextBox::edit() const { return static_cast<QLineEdit&>(widget()); }

@@ -11,6 +11,7 @@ class QPlainTextEdit;
 namespace quarvel {
 
 enum class Editing { Free, Locked };
+enum class Offered { No, Yes }; ///< whether the user may take a draft with a key
 
 /// What a text box of either kind tells its window.
 struct TextBoxEvents {
@@ -19,6 +20,10 @@ struct TextBoxEvents {
     Event<> lostFocus;         ///< the focus went to another control of the window
     Event<> cut;               ///< words of what was pasted or dropped did not fit into the box
     Event<> entered;           ///< Return was pressed in a box of one line
+    Event<> edited;            ///< the user has changed the text
+    Event<> offerTaken;        ///< Ctrl+Z, where the box has nothing of its own to undo
+    Event<> offerRefused;      ///< Escape
+    Offered offered = Offered::No;
 };
 
 /// A text box of one line; its text is centred.
@@ -36,6 +41,7 @@ public:
     /// Where the next character is typed, 0 for the beginning.
     [[nodiscard]] int cursor() const;
     void placeCursor(int place);
+    void setOffered(Offered offered) { events.offered = offered; }
 
     TextBoxEvents events;
 
@@ -53,6 +59,18 @@ public:
     void setLongestTyped(int characters);
     void setEditing(Editing editing);
     [[nodiscard]] bool isLocked() const;
+    /// Changes the text as the user would, who can undo it.
+    void replaceText(const QString& text);
+    /// Whether the user has changed anything that can be undone.
+    [[nodiscard]] bool hasOwnUndo() const;
+
+    /// How a draft is offered: with words that fill an empty box, or on a strip below what a box holds.
+    struct Offer {
+        QString hint;
+        QString strip;
+    };
+    void showOffer(const Offer& offer);
+    void hideOffer() { showOffer({}); }
 
     TextBoxEvents events;
 

@@ -45,6 +45,15 @@ QKeyEvent filteredKeyPress(const TextBoxEvents& events, const QKeyEvent& event) 
             event.device()};
 }
 
+bool isUsedByOffer(const TextBoxEvents& events, const QKeyEvent& event, OwnUndo undo) {
+    if (events.offered == Offered::No) return false;
+    const bool taken = undo == OwnUndo::Nothing && event.matches(QKeySequence::Undo);
+    const bool refused = event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier;
+    if (taken) events.offerTaken.raise();
+    if (refused) events.offerRefused.raise();
+    return taken || refused;
+}
+
 bool hasWordsFrom(const QString& text, qsizetype place) {
     return std::any_of(text.cbegin() + place, text.cend(),
                        [](QChar character) { return !character.isSpace(); });

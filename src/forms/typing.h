@@ -15,6 +15,11 @@ namespace quarvel {
 /// The same key press with its typed text filtered.
 [[nodiscard]] QKeyEvent filteredKeyPress(const TextBoxEvents& events, const QKeyEvent& event);
 
+enum class OwnUndo { Nothing, Something };
+
+/// Tells the window of a key that takes or refuses the draft that it offers; false for any other key.
+[[nodiscard]] bool isUsedByOffer(const TextBoxEvents& events, const QKeyEvent& event, OwnUndo undo);
+
 /// Whether a text holds more than blanks and line breaks from a place on: who pastes a cell of a table does
 /// not miss the line break behind it.
 [[nodiscard]] bool hasWordsFrom(const QString& text, qsizetype place);

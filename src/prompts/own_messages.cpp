@@ -117,20 +117,26 @@ constexpr std::array messages = {
     // The question before a save.
     OwnMessage{u"0189", u"Sul disco c'è qualcosa che in questa finestra non hai visto:\n%1\nSe salvi sopra, "
                         u"il contenuto di adesso resta tra le versioni di prima. Se rileggi, quello che hai "
-                        u"scritto resta lì, e qui appare ciò che è sul disco."},
+                        u"scritto diventa una bozza, e qui appare ciò che è sul disco."},
     OwnMessage{u"0190", u"&Salva sopra"},
     OwnMessage{u"0191", u"&Rileggi"},
     // What is typed and not saved yet.
     OwnMessage{u"0200",
                u"Il testo incollato o trascinato è più lungo dello spazio che c'è nella casella: ne è "
                u"entrato solo l'inizio. Il testo intero è ancora là da dove viene."},
+    // Drafts: %1 is a note's beginning, or the airport, with the number of its values.
+    OwnMessage{u"0201", u"Bozza non salvata: «%1». Ctrl+Z la riprende, Esc la scarta."},
+    OwnMessage{u"0202", u"C'è una bozza non salvata: Ctrl+Z la riprende, Esc la scarta"},
+    OwnMessage{u"0203", u"Dei dati di %1 c'è una bozza non salvata (caselle scritte: %2). In una casella, "
+                        u"Ctrl+Z la riprende, Esc la scarta."},
+    OwnMessage{u"0204", u"Ha una bozza non salvata"},
     // Beside the list of charts.
     OwnMessage{u"0210", u"In questa cartella ci sono anche PDF o immagini di altro tipo, che l'elenco non "
                         u"mostra: %1. Le cartine sono immagini GIF."},
     // The main window: the language, a new airport, a missing picture.
     OwnMessage{u"0220", u"La lingua scelta vale da adesso, ma non si può ricordarla per il prossimo avvio."},
     OwnMessage{u"0221",
-               u"Vuoi lasciare questo aeroporto senza salvarlo? I dati che hai scritto vanno persi."},
+               u"Vuoi lasciare questo aeroporto senza salvarlo? I dati che hai scritto restano come bozza."},
     OwnMessage{u"0222", u"La foto va messa qui:\n%1"},
     // A picture with rows missing. %2 is a number.
     OwnMessage{u"0240", u"La cartina scelta non è intera: ne vedi quello che il file contiene."},

@@ -47,11 +47,6 @@ Result<void> EarlierVersions::keep(const FileContent& next) const {
     return present.value() == next.bytes ? Result<void>() : store(file.value(), present.value());
 }
 
-Result<void> EarlierVersions::keepTyped(const FileContent& typed) const {
-    const Result<QString> file = relative(typed.path);
-    return file ? store(file.value(), typed.bytes) : file.failure();
-}
-
 /// Stores the newest version of a file, unless it is that already.
 Result<void> EarlierVersions::store(const QString& file, const QByteArray& bytes) const {
     const VersionLimits& limits = limitsFor(file);

@@ -30,9 +30,6 @@ public:
     /// readWholeFile and writeWholeFile.
     [[nodiscard]] Result<void> keep(const FileContent& next) const;
 
-    /// Keeps what somebody typed for a file, and would lose, as its newest version. Fails like keep.
-    [[nodiscard]] Result<void> keepTyped(const FileContent& typed) const;
-
     /// The files that have versions, by their paths in the program folder ("aeroporti/LIRF/Sid/ROTTA_K.txt").
     [[nodiscard]] QStringList files() const;
 

@@ -16,7 +16,7 @@ constexpr FormDesign design{.name = "frmMain",
 frmMain::frmMain(const frmMainNeeds& needs)
     : FormOf(design, needs.windows), state_(needs.state), paths_(needs.paths), language_(needs.language),
       prompts_(needs.prompts), services_(needs.services), beforeReplacing_(needs.beforeReplacing),
-      presenter_(needs.presenter) {}
+      presenter_(needs.presenter), newAirport_(needs.drafts) {}
 
 void frmMain::wire() {
     c->txtNomeAeroporto.events.keyPress.calls(this, &frmMain::txtNomeAeroporto_KeyPress);
@@ -29,6 +29,9 @@ void frmMain::wire() {
         field.events.keyPress.calls(this, &frmMain::txtRwy_KeyPress, index);
         field.events.lostFocus.calls(this, &frmMain::txtRwy_LostFocus, index);
         field.events.cut.calls(this, &frmMain::tellCutText);
+        field.events.edited.calls(this, &frmMain::txtRwy_Edited);
+        field.events.offerTaken.calls(this, &frmMain::txtRwy_OfferTaken);
+        field.events.offerRefused.calls(this, &frmMain::txtRwy_OfferRefused);
     });
     c->cmdSave.clicked.calls(this, &frmMain::cmdSave_Click);
     c->cmdReset.clicked.calls(this, &frmMain::cmdReset_Click);
@@ -47,6 +50,7 @@ void frmMain::wire() {
 void frmMain::Form_Load() {
     presenterTextPath_.clear();
     madeFolders_.clear();
+    newAirport_.end();
     MLSFillMenuLanguages();
     language_.MLSApplyLanguage(*this);
     giveOwnTexts();

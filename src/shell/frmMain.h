@@ -8,6 +8,7 @@
 #include "platform/services.h"
 #include "presenter/presenter.h"
 #include "prompts/prompts.h"
+#include "safekeeping/kept_draft.h"
 #include "shell/frmMain_controls.h"
 #include "state/process_state.h"
 
@@ -27,6 +28,7 @@ struct frmMainNeeds {
     modLanguageSupport& language;
     Prompts& prompts;
     const Services& services;
+    Drafts& drafts;
     Presenter& presenter;
     Windows& windows;
     const BeforeReplacing& beforeReplacing; ///< of every save of the user's files
@@ -89,6 +91,16 @@ private:
     void backToEditing();
     void endAfterSaving();
 
+    // What was typed of a new airport and not saved (frmMain_drafts.cpp)
+    void txtRwy_Edited();
+    void txtRwy_OfferTaken();
+    void txtRwy_OfferRefused();
+    /// A new airport is begun with the fields as they are.
+    void beginDraft(const QString& airport);
+    void endDraft();
+    void showOffer();
+    [[nodiscard]] QString typedFields() const;
+
     // What Escape takes away (frmMain_escape.cpp)
     void takeResultsAway();
     void leaveNewAirport();
@@ -130,6 +142,7 @@ private:
     const BeforeReplacing& beforeReplacing_;
     Presenter& presenter_;
 
+    KeptDraft newAirport_;
     ArchiveSearch search_;
     std::optional<QStringList> languages_;     ///< the language list, built once per run
     QString presenterTextPath_;                ///< of the open airport

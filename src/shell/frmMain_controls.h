@@ -99,6 +99,7 @@ struct frmMainControls {
 
     ServiceControl Agent  {form,      {.name = "Agent"}};
     struct Decorations { explicit Decorations(frmMainControls& all); } decorations {*this};
+    Hint draftHint {form, {5520, 7755, 4665, 1020}, {.points = 9.75, .text = colour::ink, .background = colour::draft}}; // beside the commands of a new airport
     Hint searchHint {Frame1, {60, 1260, 4560, 960}, {.points = 9.75}}; // where the general data stand later
     Image     imgAeroporto {form,     {.name = "imgAeroporto", .place = {5400, 0, 4935, 8895}, .shown = Shown::No}};
 

@@ -17,11 +17,13 @@ void frmMain::txtRwy_LostFocus(int index) {
     const QString text = c->txtRwy[index].text();
     if (paired->rule == PairRule::Copy) {
         c->txtRwy[paired->target].setText(text);
-        return;
+    } else {
+        const Designator designator = judgeDesignator(text);
+        if (designator.kind == DesignatorKind::Valid)
+            c->txtRwy[paired->target].setText(designator.reciprocal);
+        if (designator.kind == DesignatorKind::Refused) refuseDesignator(index);
     }
-    const Designator designator = judgeDesignator(text);
-    if (designator.kind == DesignatorKind::Valid) c->txtRwy[paired->target].setText(designator.reciprocal);
-    if (designator.kind == DesignatorKind::Refused) refuseDesignator(index);
+    txtRwy_Edited();
 }
 
 void frmMain::tellCutText() { prompts_.tellSoon(*this, Task::PasteText); }
@@ -31,13 +33,16 @@ void frmMain::refuseDesignator(int index) {
         static_cast<void>(prompts_.ask(*this, u"0033"_s, u"0034"_s, Buttons::Ok, BoxIcon::Information));
         if (c == nullptr) return;
         c->txtRwy[index].setText({});
+        txtRwy_Edited();
         c->txtRwy[index].setFocus();
     });
 }
 
 void frmMain::cmdReset_Click() {
+    newAirport_.beginAgain(); // what is cleared now is offered
     c->txtRwy.forEach([](int /*index*/, TextBox& field) { field.setText({}); });
     c->txtRwy[IcaoCode].setFocus();
+    showOffer();
 }
 
 bool frmMain::CheckIcaoCode() {
@@ -87,6 +92,7 @@ void frmMain::cmdSave_Click() {
         return;
     }
     state_.CurrentIcao = storableValue(record.values[IcaoCode]);
+    newAirport_.saved(typedFields());
     prompts_.tellOf(*this, saved.value());
     if (c != nullptr) endAfterSaving();
 }

@@ -106,6 +106,7 @@ void frmMain::offerNewAirport(const QString& name, const Before& before) {
 void frmMain::backToSearch() {
     HideAirportData();
     c->Frame3.setShown(Shown::No);
+    endDraft();
     ShowDecorations();
     c->txtNomeAeroporto.setText({});
     c->txtRwy[IcaoCode].setText({});
@@ -131,6 +132,7 @@ void frmMain::startNewAirport(const QString& name, const Before& before) {
     c->Frame3.setShown(Shown::Yes);
     c->txtNomeAeroporto.setUsable(Usable::Yes);
     c->txtRwy[IcaoCode].setFocus();
+    beginDraft(name);
 }
 
 void frmMain::showAirport(const QString& name, const Before& before) {
@@ -152,6 +154,7 @@ void frmMain::showAirport(const QString& name, const Before& before) {
         return;
     }
     recordShown_ = record.value();
+    endDraft();
     fillFields(record.value());
     presentAirport(name);
     HideDecorations();

@@ -36,6 +36,7 @@ void frmMain::giveOwnTexts() {
     c->Image1.forEach([&](int /*index*/, Image& decoration) { decoration.setSpokenName(decorationName); });
     c->imgAeroporto.setSpokenName(standingText(language_, u"0160"_s));
     showHints();
+    showOffer();
 }
 
 void frmMain::showHints() {

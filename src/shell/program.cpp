@@ -17,6 +17,11 @@ StateStore storeBeside(const ProgramFolder& folder, StateStore::Report report) {
     return {place.path, place.access, std::move(report)};
 }
 
+Services withEnd(const Services& services, ProcessEnd& process) {
+    return {services.messageBoxes, services.sounds, services.printer, services.urls,
+            services.screen,       process,         services.beeper,  services.notificationArea};
+}
+
 } // namespace
 
 Program::Program(const ProgramFolder& folder, const Services& services, Presenter& presenter)
@@ -25,14 +30,17 @@ Program::Program(const ProgramFolder& folder, const Services& services, Presente
           folder, [this](StateTrouble trouble, const Failure& failure) { tellLater(trouble, failure); })),
       versions_(folder.path, findStateFolder(folder)),
       beforeReplacing_([this](const FileContent& next) { keepOld(next); }),
-      keepTyped_([this](const FileContent& typed) { return versions_.keepTyped(typed); }),
+      drafts_(store_), end_(drafts_, services.process),
       language_(folder.path, state_.MLSCurrentLanguage, beforeReplacing_),
-      prompts_(language_, services.messageBoxes), toolkitTexts_(language_), services_(services),
-      main_({state_, paths_, language_, prompts_, services_, presenter, *this, beforeReplacing_}),
-      view_({state_, paths_, language_, prompts_, services_, *this, beforeReplacing_, keepTyped_}),
+      prompts_(language_, services.messageBoxes), toolkitTexts_(language_),
+      services_(withEnd(services, end_)),
+      main_({state_, paths_, language_, prompts_, services_, drafts_, presenter, *this, beforeReplacing_}),
+      view_({state_, paths_, language_, prompts_, services_, drafts_, *this, beforeReplacing_}),
       companion_({state_, paths_, language_, prompts_, services_, *this}) {
     QCoreApplication::installTranslator(&toolkitTexts_);
 }
+
+Program::~Program() { drafts_.flush(); }
 
 QSizeF Program::largestWindow() {
     return frmMain::insideTwips.expandedTo(frmView::insideTwips) / twipsPerPixel;
@@ -47,11 +55,12 @@ void Program::show(WindowName name) {
 void Program::tell(Task task, const Failure& failure) { prompts_.tell(main_, task, failure); }
 
 void Program::tellLater(StateTrouble trouble, const Failure& failure) {
-    // Whoever reads or writes has its own work to finish first.
-    QTimer::singleShot(0, &life_, [this, trouble, failure] {
+    // Whoever reads or writes has its own work to finish first, and may be another thread.
+    const auto tell = [this, trouble, failure] {
         if (trouble == StateTrouble::SetAside) return prompts_.tell(inFront(), Task::UseState, failure.path);
         prompts_.tell(inFront(), Task::KeepState, failure);
-    });
+    };
+    QMetaObject::invokeMethod(&life_, tell, Qt::QueuedConnection);
 }
 
 void Program::keepOld(const FileContent& next) {

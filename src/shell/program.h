@@ -9,6 +9,7 @@
 #include "presenter/presenter.h"
 #include "prompts/prompts.h"
 #include "prompts/toolkit_texts.h"
+#include "safekeeping/drafts.h"
 #include "safekeeping/earlier_versions.h"
 #include "shell/frmMain.h"
 #include "state/process_state.h"
@@ -25,6 +26,7 @@ namespace quarvel {
 class Program : public Windows {
 public:
     Program(const ProgramFolder& folder, const Services& services, Presenter& presenter);
+    ~Program() override;
 
     /// The inside of the largest of the windows whose size is fixed, in logical pixels.
     [[nodiscard]] static QSizeF largestWindow();
@@ -39,11 +41,29 @@ public:
     [[nodiscard]] ProcessState& state() { return state_; }
     /// What the program remembers by itself from one run to the next.
     [[nodiscard]] StateStore& store() { return store_; }
+    /// Puts on the disk what is typed and not there yet.
+    void flush() { drafts_.flush(); }
+    /// Ends the process, at the system's request.
+    void end() { end_.endNow(); }
     [[nodiscard]] frmMain& mainWindow() { return main_; }
     [[nodiscard]] frmView& viewWindow() { return view_; }
     [[nodiscard]] frmFS9& companionWindow() { return companion_; }
 
 private:
+    /// Ends the process once what was typed is on the disk; no window's closing steps run then.
+    class EndWithDrafts : public ProcessEnd {
+    public:
+        EndWithDrafts(Drafts& drafts, ProcessEnd& process) : drafts_(drafts), process_(process) {}
+        void endNow() override {
+            drafts_.flush();
+            process_.endNow();
+        }
+
+    private:
+        Drafts& drafts_;
+        ProcessEnd& process_;
+    };
+
     [[nodiscard]] Form& window(WindowName name);
     [[nodiscard]] Form& inFront();
     void tellLater(StateTrouble trouble, const Failure& failure);
@@ -55,7 +75,8 @@ private:
     EarlierVersions versions_;
     bool toldOfVersions_ = false;
     BeforeReplacing beforeReplacing_;
-    KeepTyped keepTyped_;
+    Drafts drafts_;
+    EndWithDrafts end_;
     modLanguageSupport language_;
     Prompts prompts_;
     ToolkitTexts toolkitTexts_;

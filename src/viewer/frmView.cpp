@@ -27,7 +27,7 @@ constexpr FormDesign design{.name = "frmView",
 frmView::frmView(const frmViewNeeds& needs)
     : FormOf(design, needs.windows), state_(needs.state), paths_(needs.paths), language_(needs.language),
       prompts_(needs.prompts), services_(needs.services), beforeReplacing_(needs.beforeReplacing),
-      keepTyped_(needs.keepTyped) {}
+      drafts_(needs.drafts), kept_{KeptDraft(drafts_), KeptDraft(drafts_), KeptDraft(drafts_)} {}
 
 void frmView::wire() {
     c->Option1.forEach([this](int index, OptionButton& option) {
@@ -38,8 +38,13 @@ void frmView::wire() {
     c->Text1.events.keyPress.calls(this, &frmView::Text1_KeyPress);
     c->Text2.events.keyPress.calls(this, &frmView::Text2_KeyPress);
     c->Text3.events.keyPress.calls(this, &frmView::Text3_KeyPress);
-    for (MultiLineTextBox* notes : {&c->Text1, &c->Text2, &c->Text3})
-        notes->events.cut.calls(this, &frmView::tellCutText);
+    for (const NotesBox box : allNotesBoxes) {
+        TextBoxEvents& events = boxOf(box).events;
+        events.cut.calls(this, &frmView::tellCutText);
+        events.edited.calls(this, &frmView::Text_Edited, box);
+        events.offerTaken.calls(this, &frmView::Text_OfferTaken, box);
+        events.offerRefused.calls(this, &frmView::Text_OfferRefused, box);
+    }
     c->cmdSave.clicked.calls(this, &frmView::cmdSave_Click);
     c->Command1.clicked.calls(this, &frmView::Command1_Click);
     c->Command2.clicked.calls(this, &frmView::Command2_Click);
@@ -62,6 +67,7 @@ void frmView::forgetControls() {
 
 void frmView::Form_Load() {
     chosenRow_ = -1;
+    endDrafts();
     language_.MLSApplyLanguage(*this);
     if (c == nullptr) return;
     giveOwnTexts();
@@ -95,6 +101,9 @@ void frmView::giveOwnTexts() {
     c->VScroll1.setSpokenName(standingText(language_, u"0164"_s));
     nameChart();
     showHints();
+    c->List1.setSigns([this](const QString& chart) { return hasDraft(chart); },
+                      standingText(language_, u"0204"_s));
+    showOffers();
 }
 
 void frmView::nameNotes(Frame& frame, MultiLineTextBox& notes) {

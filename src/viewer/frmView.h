@@ -5,6 +5,7 @@
 #include "language/language_support.h"
 #include "platform/services.h"
 #include "prompts/prompts.h"
+#include "safekeeping/kept_draft.h"
 #include "state/process_state.h"
 #include "viewer/core/catalogue.h"
 #include "viewer/core/notes.h"
@@ -14,16 +15,13 @@
 #include <QByteArray>
 #include <QSizeF>
 #include <QString>
-#include <functional>
+#include <array>
 #include <optional>
 #include <set>
 #include <utility>
 #include <vector>
 
 namespace quarvel {
-
-/// Takes what was typed for a file and has to give way to what the disk holds.
-using KeepTyped = std::function<Result<void>(const FileContent& typed)>;
 
 /// What the chart viewer works with; all of it outlives the window.
 struct frmViewNeeds {
@@ -32,9 +30,9 @@ struct frmViewNeeds {
     modLanguageSupport& language;
     Prompts& prompts;
     const Services& services;
+    Drafts& drafts;
     Windows& windows;
     const BeforeReplacing& beforeReplacing; ///< of every save of the user's files
-    const KeepTyped& keepTyped;
 };
 
 /// The chart viewer: the charts of the current airport by family, with their notes, zoomed and panned.
@@ -99,14 +97,30 @@ private:
     [[nodiscard]] Answer askAboutUnseen(const std::vector<NoteFile>& now);
     [[nodiscard]] Result<void> readAgain(std::vector<NoteFile> now);
 
+    // What was typed and not saved (frmView_drafts.cpp)
+    void Text_Edited(NotesBox box);
+    void Text_OfferTaken(NotesBox box);
+    void Text_OfferRefused(NotesBox box);
+    /// The boxes show what a chart's files hold; what was typed in them before stays, as a draft to be
+    /// offered.
+    void beginDrafts(const QString& chart);
+    void endDrafts();
+    void draftsAreSaved();
+    void showOffer(NotesBox box);
+    void showOffers();
+    [[nodiscard]] QString draftFor(const NoteKind& kind, const QString& chart) const;
+    [[nodiscard]] bool hasDraft(const QString& chart) const;
+    [[nodiscard]] KeptDraft& keptOf(NotesBox box) { return kept_[static_cast<std::size_t>(box)]; }
+
     ProcessState& state_;
     const ArchivePaths& paths_;
     modLanguageSupport& language_;
     Prompts& prompts_;
     const Services& services_;
     const BeforeReplacing& beforeReplacing_;
-    const KeepTyped& keepTyped_;
+    Drafts& drafts_;
 
+    std::array<KeptDraft, allNotesBoxes.size()> kept_; ///< of each notes box
     std::optional<ChartFrame> chart_; ///< while the window is loaded
     std::vector<NoteFile> notesRead_; ///< of the chart shown, as they were when last seen or saved
     std::set<std::pair<QString, QByteArray>> asked_; ///< paths and contents that the user was asked about

@@ -83,6 +83,7 @@ void frmView::List1_Click() {
     c->chartHint.showText({});
     showNotes(notes.value());
     notesRead_ = files.take();
+    beginDrafts(chart);
     c->Command4.setUsable(Usable::Yes);
     ChartName = chart;
     state_.ChartFile = chartFileName(chart);
@@ -97,7 +98,7 @@ void frmView::keepChosenChart() {
 }
 
 void frmView::showNotes(const std::vector<NoteText>& notes) {
-    for (const NotesBox box : {NotesBox::Text1, NotesBox::Text2, NotesBox::Text3}) boxOf(box).setText({});
+    for (const NotesBox box : allNotesBoxes) boxOf(box).setText({});
     for (const NoteText& note : notes) {
         boxOf(note.box).setEditing(Editing::Free);
         boxOf(note.box).setText(note.text);

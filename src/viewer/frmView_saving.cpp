@@ -31,6 +31,7 @@ void frmView::cmdSave_Click() {
         prompts_.tell(*this, Task::SaveNotes, saved.failure());
         return;
     }
+    draftsAreSaved();
     notesRead_ = readNoteFiles(c->File1.path(), FamilyMode, ChartName).valueOr({});
     prompts_.tellOf(*this, saved.value());
 }
@@ -52,18 +53,13 @@ Answer frmView::askAboutUnseen(const std::vector<NoteFile>& now) {
     return unseen.isEmpty() ? Answer::Ok : prompts_.askAboutUnseen(*this, unseen);
 }
 
-/// Shows what the disk holds, once what was typed is kept. Whatever fails leaves the boxes as they are.
+/// Shows what the disk holds; what was typed is offered then. Whatever fails leaves the boxes as they are.
 Result<void> frmView::readAgain(std::vector<NoteFile> now) {
     const Result<std::vector<NoteText>> notes = notesIn(now);
     if (!notes) return notes.failure();
-    const auto typed = noteContents(c->File1.path(), FamilyMode, ChartName, typedNotes());
-    if (!typed) return typed.failure();
-    for (std::size_t i = 0; i < now.size(); ++i) {
-        if (typed.value()[i].bytes == now[i].bytes) continue;
-        if (Result<void> kept = keepTyped_(typed.value()[i]); !kept) return kept;
-    }
     showNotes(notes.value());
     notesRead_ = std::move(now);
+    beginDrafts(ChartName);
     return {};
 }
 

@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <array>
 #include <optional>
 #include <span>
 #include <vector>
@@ -13,6 +14,7 @@ namespace quarvel {
 
 /// The three notes boxes of the viewer.
 enum class NotesBox { Text1, Text2, Text3 };
+inline constexpr std::array allNotesBoxes = {NotesBox::Text1, NotesBox::Text2, NotesBox::Text3};
 
 /// Which note of a family lies in which file and is shown in which box.
 struct NoteKind {

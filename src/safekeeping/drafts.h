@@ -1,0 +1,66 @@
+#pragma once
+
+#include "files/state_store.h"
+
+#include <QSet>
+#include <QString>
+#include <QThreadPool>
+#include <QTimer>
+#include <optional>
+#include <vector>
+
+namespace quarvel {
+
+/// What the drafts for a file in one of an airport's folders are known by, however the names are typed and
+/// their accents are stored.
+[[nodiscard]] QString draftName(const QString& airport, const QString& folder, const QString& file);
+
+/// What was typed and not saved, by the file that it is meant for. A file may have several drafts: one is not
+/// lost because another is begun beside it. All are on the disk within a second, written by a thread, so that
+/// a slow disk holds up no key; those of another copy of the program stay there. The oldest go when they are
+/// too many.
+class Drafts {
+public:
+    explicit Drafts(StateStore& store);
+
+    /// The newest draft for a file.
+    [[nodiscard]] std::optional<QString> newest(const QString& file);
+
+    enum class Beside {
+        Others, ///< as a draft of its own
+        Older   ///< in place of the newest
+    };
+    void keep(const QString& file, const QString& text, Beside beside);
+    void dropNewest(const QString& file);
+    void dropAll(const QString& file);
+
+    /// Writes what is not on the disk yet, and waits for it. For the program's end.
+    void flush();
+
+private:
+    struct Draft {
+        QString file;
+        QString text;
+    };
+    using All = std::vector<Draft>; // the newest first
+    /// What is not on the disk as it is here: all drafts of some files.
+    struct Changes {
+        QSet<QString> files;
+        All drafts;
+    };
+
+    [[nodiscard]] All& all();
+    [[nodiscard]] All onDisk();
+    void changed(const QString& file);
+    [[nodiscard]] Changes changes();
+    void writeBehind();
+    void write(Changes changes);
+
+    StateStore& store_;
+    std::optional<All> all_; ///< once they have been asked for
+    QSet<QString> changed_;
+    QTimer soon_;
+    QThreadPool writer_; ///< of one thread
+};
+
+} // namespace quarvel

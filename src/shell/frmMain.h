@@ -95,11 +95,12 @@ private:
     void txtRwy_Edited();
     void txtRwy_OfferTaken();
     void txtRwy_OfferRefused();
-    /// A new airport is begun with the fields as they are.
-    void beginDraft(const QString& airport);
+    /// An airport is entered, of which this is saved, with the fields as they are.
+    void beginDraft(const QString& airport, const QString& saved);
     void endDraft();
     void showOffer();
     [[nodiscard]] QString typedFields() const;
+    [[nodiscard]] static QString noFields();
 
     // What Escape takes away (frmMain_escape.cpp)
     void takeResultsAway();

@@ -13,7 +13,8 @@ namespace {
 
 /// A draft of an airport is the list of its values, by their positions.
 QString draftOf(const QStringList& values) {
-    return QString::fromUtf8(QJsonDocument(QJsonArray::fromStringList(values)).toJson(QJsonDocument::Compact));
+    return QString::fromUtf8(
+        QJsonDocument(QJsonArray::fromStringList(values)).toJson(QJsonDocument::Compact));
 }
 
 QStringList valuesIn(const QString& draft) {
@@ -31,8 +32,10 @@ QString frmMain::typedFields() const {
     return draftOf(values);
 }
 
-void frmMain::beginDraft(const QString& airport) {
-    newAirport_.begin(draftName(airport, u"Aeroporto"_s, airport), draftOf(QStringList(recordSize)));
+QString frmMain::noFields() { return draftOf(QStringList(recordSize)); }
+
+void frmMain::beginDraft(const QString& airport, const QString& saved) {
+    newAirport_.begin(draftName(airport, u"Aeroporto"_s, airport), saved);
     txtRwy_Edited(); // the fields may still hold what was typed under another name
 }
 

@@ -8,7 +8,8 @@ using namespace Qt::StringLiterals;
 namespace quarvel {
 
 /// Escape drops a draft that is offered. Else it takes away what lies on top: the information, then the list
-/// that still lies over an airport, then the airport that is being entered. In the search state it is a key like any other.
+/// that still lies over an airport, then the airport that is being entered. In the search state it is a key
+/// like any other.
 void frmMain::Form_KeyDown(KeyDown& key) {
     if (key.key != Qt::Key_Escape || key.modifiers != Qt::NoModifier) return;
     key.used = true;
@@ -34,8 +35,8 @@ void frmMain::takeResultsAway() {
 void frmMain::leaveNewAirport() {
     if (isAnythingTyped() && prompts_.askOwn(*this, u"0221"_s) != Answer::Yes) return;
     if (c == nullptr) return;
-    endDraft(); // what was typed stays a draft
-    ClearAllFields(); // before the focus moves: a field that still held something would be judged when it is left
+    endDraft();       // what was typed stays
+    ClearAllFields(); // before the focus moves: a field that held something would be judged when it is left
     LockFields();
     backToSearch();
     for (const QString& airport : std::exchange(madeFolders_, {})) removeEmptyAirportFolders(airport);

@@ -132,7 +132,7 @@ void frmMain::startNewAirport(const QString& name, const Before& before) {
     c->Frame3.setShown(Shown::Yes);
     c->txtNomeAeroporto.setUsable(Usable::Yes);
     c->txtRwy[IcaoCode].setFocus();
-    beginDraft(name);
+    beginDraft(name, noFields());
 }
 
 void frmMain::showAirport(const QString& name, const Before& before) {
@@ -154,8 +154,8 @@ void frmMain::showAirport(const QString& name, const Before& before) {
         return;
     }
     recordShown_ = record.value();
-    endDraft();
     fillFields(record.value());
+    c->Frame3.isShown() ? beginDraft(name, typedFields()) : endDraft();
     presentAirport(name);
     HideDecorations();
     ShowAirportData();

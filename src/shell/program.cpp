@@ -29,9 +29,8 @@ Program::Program(const ProgramFolder& folder, const Services& services, Presente
       store_(storeBeside(
           folder, [this](StateTrouble trouble, const Failure& failure) { tellLater(trouble, failure); })),
       versions_(folder.path, findStateFolder(folder)),
-      beforeReplacing_([this](const FileContent& next) { keepOld(next); }),
-      drafts_(store_), end_(drafts_, services.process),
-      language_(folder.path, state_.MLSCurrentLanguage, beforeReplacing_),
+      beforeReplacing_([this](const FileContent& next) { keepOld(next); }), drafts_(store_),
+      end_(drafts_, services.process), language_(folder.path, state_.MLSCurrentLanguage, beforeReplacing_),
       prompts_(language_, services.messageBoxes), toolkitTexts_(language_),
       services_(withEnd(services, end_)),
       main_({state_, paths_, language_, prompts_, services_, drafts_, presenter, *this, beforeReplacing_}),

@@ -121,7 +121,7 @@ private:
     Drafts& drafts_;
 
     std::array<KeptDraft, allNotesBoxes.size()> kept_; ///< of each notes box
-    std::optional<ChartFrame> chart_; ///< while the window is loaded
+    std::optional<ChartFrame> chart_;                  ///< while the window is loaded
     std::vector<NoteFile> notesRead_; ///< of the chart shown, as they were when last seen or saved
     std::set<std::pair<QString, QByteArray>> asked_; ///< paths and contents that the user was asked about
     int chosenOption_ = -1; ///< of the list on show; -1 once the options have been cleared

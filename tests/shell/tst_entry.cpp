@@ -140,11 +140,38 @@ private Q_SLOTS:
         test.addAirport(u"NEW"_s); // by somebody else, meanwhile
         const QByteArray record = test.read(u"aeroporti/NEW/Aeroporto/NEW.txt"_s);
         save(Answer::Again);
-        QCOMPARE(test.field(IcaoCode)->text(), u"NEW"_s); // what the disk holds
+        QCOMPARE(test.field(IcaoCode)->text(), u"NEW"_s);            // what the disk holds
+        QVERIFY(!test.field(20)->accessibleDescription().isEmpty()); // what was typed is offered
         QVERIFY(!test.field(20)->isReadOnly());
         QCOMPARE(test.read(u"aeroporti/NEW/Aeroporto/NEW.txt"_s), record);
         save(Answer::Ok);
         QVERIFY(test.end.ended && test.boxes.shown.size() == 2); // it has been seen
+    }
+
+    void aHalfTypedAirportIsOfferedWhenItsNameIsConfirmedAgain() {
+        NewAirport test;
+        test.enter(IcaoCode, u"lirx"_s);
+        test.enter(3, u"09"_s);
+        QTest::keyClick(test.field(4), Qt::Key_Escape); // leaves it, after a question
+        const auto begin = [&](const QString& name) {
+            test.type(name);
+            test.click(u"cmdElabora"_s);
+            return test.field(20)->accessibleDescription();
+        };
+        QVERIFY(begin(u"other"_s).isEmpty());
+        test.stop();
+        test.start();
+        QVERIFY(begin(u"New"_s).contains(u"NEW"_s));
+        QCOMPARE(test.field(IcaoCode)->text(), QString());
+        QTest::keyClick(test.field(20), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(test.field(IcaoCode)->text() + test.field(3)->text() + test.field(8)->text(), u"LIRX0927"_s);
+        QVERIFY(test.field(20)->accessibleDescription().isEmpty());
+        test.click(u"cmdReset"_s); // is a draft again
+        QVERIFY(!test.field(20)->accessibleDescription().isEmpty());
+        test.boxes.shown.clear();
+        QTest::keyClick(test.field(20), Qt::Key_Escape);
+        QVERIFY(test.field(20)->accessibleDescription().isEmpty());
+        QVERIFY(test.boxes.shown.isEmpty() && test.control(u"Frame3"_s)->isVisible());
     }
 
     void aFailedSaveCanBeTriedAgain() {

@@ -177,8 +177,8 @@ private Q_SLOTS:
         test.write(note, "\"EDITOR\"\r\n"); // meanwhile
         QVERIFY(save(Answer::Again));
         QCOMPARE(test.notes(u"Text2"_s), u"EDITOR"_s);
-        const QDir kept(test.path(u"Stato/versioni/testi/"_s + note));
-        QCOMPARE(bytesOf(kept.filePath(kept.entryList(QDir::Files).last())), "\"TYPED\"\r\n");
+        QTest::keyClick(test.box(u"Text2"_s), Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(test.notes(u"Text2"_s), u"TYPED"_s);
         test.box(u"Text2"_s)->setPlainText(u"TYPED AGAIN"_s);
         QVERIFY(!save(Answer::Ok)); // it has been seen
         QCOMPARE(test.read(note), "\"TYPED AGAIN\"\r\n");
@@ -188,6 +188,46 @@ private Q_SLOTS:
         test.write(note, "LATER");
         QVERIFY(save(Answer::Ok));
         QCOMPARE(test.read(note), "\"TYPED AGAIN\"\r\n");
+    }
+
+    void whatIsTypedAndNotSavedIsOfferedAgain() {
+        Viewer test;
+        const auto sign = [&](int row) {
+            const auto* rows = test.control<QListView>(u"List1"_s)->model();
+            return !rows->index(row, 0).data(Qt::AccessibleDescriptionRole).toString().isEmpty();
+        };
+        const auto offered = [&](const QString& box) { return test.box(box)->accessibleDescription(); };
+        const auto press = [&](const QString& box, Qt::Key key, Qt::KeyboardModifiers with = {}) {
+            QTest::keyClick(test.box(box), key, with);
+        };
+        test.choose(u"Option1(0)"_s, 1);
+        QTest::keyClicks(test.box(u"Text1"_s), u"prua"_s); // empty
+        QTest::keyClicks(test.box(u"Text2"_s), u"x"_s);    // before what is saved
+        QVERIFY(sign(1) && !sign(2) && offered(u"Text1"_s).isEmpty());
+        QTRY_VERIFY(test.read(u"Stato/drafts"_s).contains("PRUA") &&
+                    test.read(u"Stato/drafts"_s).contains("XVIA"));
+
+        test.stop(); // and what was typed last
+        test.start();
+        test.openViewer(u"LIRF"_s);
+        test.choose(u"Option1(0)"_s, 2);
+        QVERIFY(sign(1) && offered(u"Text1"_s).isEmpty());
+        test.clickRow(u"List1"_s, 1);
+        QCOMPARE(test.notes(u"Text1"_s) + test.notes(u"Text2"_s), u"VIA OST\nDRITTO"_s);
+        QVERIFY(offered(u"Text1"_s).contains(u"«PRUA»"_s) && offered(u"Text2"_s).contains(u"XVIA OST"_s));
+        press(u"Text1"_s, Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(test.notes(u"Text1"_s), u"PRUA"_s);
+        press(u"Text1"_s, Qt::Key_Z, Qt::ControlModifier); // takes it back out
+        QCOMPARE(test.notes(u"Text1"_s), QString());
+        QVERIFY(offered(u"Text1"_s).contains(u"«PRUA»"_s));
+        press(u"Text2"_s, Qt::Key_Escape);
+        QVERIFY(sign(1) && offered(u"Text2"_s).isEmpty());
+        press(u"Text1"_s, Qt::Key_Z, Qt::ControlModifier);
+        test.click(u"cmdSave"_s);
+        QVERIFY(!sign(1));
+        test.clickRow(u"List1"_s, 1);
+        QVERIFY(offered(u"Text1"_s).isEmpty());
+        QCOMPARE(test.notes(u"Text1"_s), u"PRUA"_s);
     }
 
     void savingNeedsAChartOfTheListAndWhatCanBeStored() {

@@ -45,6 +45,7 @@ def main(stage):
     presenter_steps.end_while_it_speaks(stage)
     keyboard_steps.without_a_mouse(stage)
     airport_steps.open_again(stage)
+    note_steps.outlive_a_kill(stage, airport_steps.open_again)
     companion_steps.exit_from_the_icon(stage, chart_steps.choose_first(stage))
     stage.steps.done()
 

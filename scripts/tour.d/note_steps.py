@@ -1,11 +1,13 @@
 """The steps with paper and pencil: a chart's notes typed and saved, the window printed."""
 
 import os
+import time
 from pathlib import Path
 
 from accessible import above, expect, near
+from chart_steps import choose_first
 from disk import CODE_PAGE
-from screen import click, first_page, measure, pages_of, write
+from screen import click, first_page, measure, pages_of, press, write
 
 KINDS = ("ROTTA", "DECOLLO", "ALTITUDINE")
 TYPED = "dopo il decollo prua 250\npoi a sinistra, velocità ridotta"
@@ -44,6 +46,20 @@ def write_a_note(stage, other_chart):
         expect("route box", lambda: viewer.note_box("ROTTA").text, SAVED)
         stage.keep("08-note")
     return chart
+
+
+def outlive_a_kill(stage, open_again):
+    with stage.step("a note that was typed a second before the program is killed is offered by the next start"):
+        chart = choose_first(stage)
+        click(stage.viewer.note_box("DECOLLO"))
+        write("mai salvata")
+        time.sleep(1)  # what is promised
+        stage.program.kill()
+        open_again(stage)
+        expect("the same chart", lambda: choose_first(stage), chart)
+        click(stage.viewer.note_box("DECOLLO"))
+        press("ctrl+z")
+        expect("take-off box", lambda: stage.viewer.note_box("DECOLLO").text, "MAI SALVATA")
 
 
 def files(stage, chart):

@@ -52,6 +52,11 @@ class Program:
         """The exit status, or None while it runs."""
         return self._process.poll()
 
+    def kill(self):
+        """As the system does when memory runs out: nothing of the program runs any more."""
+        self._process.kill()
+        self._process.wait()
+
     def expect_end(self):
         expect("the program's exit status", self.ended, 0)
 

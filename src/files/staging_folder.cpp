@@ -28,8 +28,12 @@ int openFolder(const QString& path) {
 }
 
 void removeFolder(const QString& path) {
-    std::error_code left; // is cleared the next time
-    std::filesystem::remove_all(systemName(path).toStdString(), left);
+    // Twice, lest a failure that passes leave anything; what is left all the same is cleared the next time.
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        std::error_code left;
+        std::filesystem::remove_all(systemName(path).toStdString(), left);
+        if (!left) return;
+    }
 }
 
 QString oldFolderIn(const QString& staging) { return staging + u"/.old"_s; }

@@ -94,7 +94,8 @@ private:
     // Saving notes (frmView_saving.cpp)
     void cmdSave_Click();
     [[nodiscard]] std::vector<NoteText> typedNotes() const;
-    [[nodiscard]] Answer askAboutUnseen(const std::vector<NoteFile>& now);
+    [[nodiscard]] Answer askAboutUnseen(const std::vector<NoteFile>& now,
+                                        const std::vector<FileContent>& next);
     [[nodiscard]] Result<void> readAgain(std::vector<NoteFile> now);
 
     // What was typed and not saved (frmView_drafts.cpp)

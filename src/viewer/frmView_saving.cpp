@@ -18,7 +18,12 @@ void frmView::cmdSave_Click() {
         prompts_.tell(*this, Task::SaveNotes, now.failure());
         return;
     }
-    const Answer unseen = askAboutUnseen(now.value());
+    const auto contents = noteContents(c->File1.path(), FamilyMode, ChartName, typedNotes());
+    if (!contents) {
+        prompts_.tell(*this, Task::SaveNotes, contents.failure());
+        return;
+    }
+    const Answer unseen = askAboutUnseen(now.value(), contents.value());
     if (c == nullptr || (unseen != Answer::Ok && unseen != Answer::Again)) return;
     if (unseen == Answer::Again) {
         if (const Result<void> shown = readAgain(now.value()); !shown)
@@ -32,7 +37,9 @@ void frmView::cmdSave_Click() {
         return;
     }
     draftsAreSaved();
-    notesRead_ = readNoteFiles(c->File1.path(), FamilyMode, ChartName).valueOr({});
+    // Not read again: that can fail, and would pass over what another program writes just now.
+    notesRead_ = now.value();
+    for (std::size_t i = 0; i < notesRead_.size(); ++i) notesRead_[i].bytes = contents.value()[i].bytes;
     prompts_.tellOf(*this, saved.value());
 }
 
@@ -43,11 +50,12 @@ std::vector<NoteText> frmView::typedNotes() const {
 }
 
 /// Asks once for a file and its content; Ok where there is nothing to ask.
-Answer frmView::askAboutUnseen(const std::vector<NoteFile>& now) {
+Answer frmView::askAboutUnseen(const std::vector<NoteFile>& now, const std::vector<FileContent>& next) {
     QStringList unseen;
     for (std::size_t i = 0; i < now.size(); ++i) {
         const NoteFile read = i < notesRead_.size() ? notesRead_[i] : NoteFile{now[i].box, now[i].path, {}};
-        if (!holdsUnseen(read, now[i])) continue;
+        // What is on the disk already, as after a save that failed in part, is not taken away.
+        if (now[i].bytes == next[i].bytes || !holdsUnseen(read, now[i])) continue;
         if (asked_.emplace(now[i].path, *now[i].bytes).second) unseen.append(now[i].path);
     }
     return unseen.isEmpty() ? Answer::Ok : prompts_.askAboutUnseen(*this, unseen);

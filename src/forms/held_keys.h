@@ -27,15 +27,18 @@ private:
     struct Press {
         QPointer<const QWidget> window; ///< where it was pressed; null once that window has gone
         bool used;
+        bool down = true;
+        quint64 letGo = 0; ///< when its release came, in milliseconds of the window system's clock
     };
 
     HeldKeys();
     void pressed(const QWidget& at, const QKeyEvent& event);
+    [[nodiscard]] bool isUntoldRepeat(const QKeyEvent& event);
     [[nodiscard]] bool isRepeatFromElsewhere(const QWidget& at, const QKeyEvent& event) const;
     [[nodiscard]] bool letGo(const QWidget& at, const QKeyEvent& event);
 
-    QHash<quint32, Press> down_;
-    bool keyWasLast_ = false; ///< the newest thing that the user did was to press a key
+    QHash<quint32, Press> presses_; ///< of keys that are down, or were the last time
+    bool keyWasLast_ = false;       ///< the newest thing that the user did was to press a key
 };
 
 } // namespace quarvel

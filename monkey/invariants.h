@@ -152,8 +152,8 @@ private:
         for (const auto& folder : {u""_s, u"/Sid"_s, u"/Star"_s, u"/Approach"_s, u"/Aeroporto"_s})
             add(paths.airportFolder(name).value() + folder, nullptr);
         if (!TestProgram::control(main, u"cmdSave"_s)->isVisible() || !staysInFolder(icao)) return targets;
-        add(paths.dataFileForWriting(name).value(), isRecord);
-        add(paths.presenterTextForWriting(name, icao).value(),
+        add(paths.dataFile(name).value(), isRecord);
+        add(paths.presenterText(name, icao).value(),
             [](const QByteArray& text) { return text.isEmpty(); });
         return targets;
     }

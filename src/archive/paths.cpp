@@ -40,10 +40,6 @@ Result<QString> ArchivePaths::dataFile(const QString& name) const {
     return resolvePath(programFolder_, dataRelative(name));
 }
 
-Result<QString> ArchivePaths::dataFileForWriting(const QString& name) const {
-    return resolveForWriting(programFolder_, dataRelative(name));
-}
-
 Result<QString> ArchivePaths::picture(const QString& name, const QString& icao) const {
     const Result<QString> folder = generalFolder(name);
     if (!folder) return folder.failure();
@@ -59,10 +55,6 @@ Result<QString> ArchivePaths::picture(const QString& name, const QString& icao) 
 
 Result<QString> ArchivePaths::presenterText(const QString& name, const QString& icao) const {
     return resolvePath(programFolder_, presenterRelative(name, icao));
-}
-
-Result<QString> ArchivePaths::presenterTextForWriting(const QString& name, const QString& icao) const {
-    return resolveForWriting(programFolder_, presenterRelative(name, icao));
 }
 
 Result<QString> ArchivePaths::familyFolder(const QString& name, const QString& family) const {

@@ -7,9 +7,8 @@
 namespace quarvel {
 
 /// Every path of the archive. The folder and file names are resolved without regard to letter case at each
-/// call; the ForWriting forms keep the exact letters of the file's own name, so that what is saved is what
-/// the exact checks find again. Names are taken as they are: check them first (archive/name_rules.h). Each
-/// fails with the faults of resolvePath.
+/// call; of those that are not there yet, the letters are kept. Names are taken as they are: check them first
+/// (archive/name_rules.h). Each fails with the faults of resolvePath.
 class ArchivePaths {
 public:
     /// `programFolder` without a separator at its end.
@@ -22,12 +21,10 @@ public:
     [[nodiscard]] Result<QString> airportFolder(const QString& name) const; ///< aeroporti/{name}
     [[nodiscard]] Result<QString> generalFolder(const QString& name) const; ///< aeroporti/{name}/Aeroporto
     [[nodiscard]] Result<QString> dataFile(const QString& name) const;      ///< .../{name}.txt
-    [[nodiscard]] Result<QString> dataFileForWriting(const QString& name) const;
     /// .../{icao}.gif, the code without blanks at its ends.
     [[nodiscard]] Result<QString> picture(const QString& name, const QString& icao) const;
     [[nodiscard]] Result<QString> presenterText(const QString& name,
                                                 const QString& icao) const; ///< {icao}_Agent.txt
-    [[nodiscard]] Result<QString> presenterTextForWriting(const QString& name, const QString& icao) const;
     /// The folder of a procedure family ("Sid", "Star", "Approach"), ending in a separator.
     [[nodiscard]] Result<QString> familyFolder(const QString& name, const QString& family) const;
 

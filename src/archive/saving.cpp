@@ -26,9 +26,9 @@ Result<Written> saveAirport(const ArchivePaths& paths, const QString& name, cons
     // As the record will give it back: by that the text is looked for.
     const QString icao = storableValue(record.values[IcaoCode]);
     if (!staysInFolder(icao)) return Failure{Fault::BadName, icao, {}};
-    const Result<QString> dataFile = paths.dataFileForWriting(name);
+    const Result<QString> dataFile = paths.dataFile(name);
     if (!dataFile) return dataFile.failure();
-    const Result<QString> presenterText = paths.presenterTextForWriting(name, icao);
+    const Result<QString> presenterText = paths.presenterText(name, icao);
     if (!presenterText) return presenterText.failure();
     const Result<QByteArray> bytes = recordBytes(record, dataFile.value());
     if (!bytes) return bytes.failure();
@@ -53,10 +53,10 @@ Result<std::vector<FileContent>> unseenFiles(const ArchivePaths& paths, const QS
         if (!isSeen(bytes.value())) unseen.push_back({path.value(), bytes.value()});
         return Result<void>();
     };
-    const Result<void> record = look(paths.dataFileForWriting(name), largestRecordBytes,
+    const Result<void> record = look(paths.dataFile(name), largestRecordBytes,
                                      [&shown](const QByteArray& bytes) { return isSeen(bytes, shown); });
     if (!record) return record.failure();
-    const Result<void> text = look(paths.presenterTextForWriting(name, icao), largestTextBytes,
+    const Result<void> text = look(paths.presenterText(name, icao), largestTextBytes,
                                    [](const QByteArray& bytes) { return bytes.trimmed().isEmpty(); });
     if (!text) return text.failure();
     return unseen;

@@ -99,15 +99,6 @@ Result<QString> resolvePath(const QString& root, const QString& relative) {
     return path;
 }
 
-Result<QString> resolveForWriting(const QString& root, const QString& relative) {
-    const qsizetype cut = relative.lastIndexOf(u'/');
-    const QString name = relative.mid(cut + 1);
-    if (name == u".."_s) return Failure{Fault::BadName, relative, {}};
-    return resolvePath(root, relative.left(std::max<qsizetype>(cut, 0))).then([&](const QString& folder) {
-        return Result<QString>(folder + u'/' + name);
-    });
-}
-
 Result<bool> holdsExactly(const QString& folder, const QString& name) {
     const Result<QStringList> names = entryNamesIfAny(folder);
     if (!names) return names.failure();

@@ -26,9 +26,6 @@ namespace quarvel {
 /// it.
 [[nodiscard]] Result<QString> resolvePath(const QString& root, const QString& relative);
 
-/// Like resolvePath, but the last component keeps its exact letters: the way to a file to be written.
-[[nodiscard]] Result<QString> resolveForWriting(const QString& root, const QString& relative);
-
 /// Whether `folder` lists a regular file (links followed) whose name is exactly `name`, letter case included.
 [[nodiscard]] Result<bool> holdsExactly(const QString& folder, const QString& name);
 

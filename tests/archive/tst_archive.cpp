@@ -101,7 +101,7 @@ private Q_SLOTS:
         QVERIFY(QFileInfo::exists(likeALeftOver));
         QCOMPARE(QDir(at(u"Aeroporti/"_s + name)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
                  (QStringList{u"Aeroporto"_s, u"Approach"_s, u"Sid"_s, u"Star"_s}));
-        QVERIFY(writeRecord(paths_->dataFileForWriting(name).value(), recordOf(u"x"_s)).ok());
+        QVERIFY(writeRecord(paths_->dataFile(name).value(), recordOf(u"x"_s)).ok());
         QVERIFY(QFileInfo::exists(at(u"Aeroporti/"_s + name + u"/Aeroporto/"_s + name + u".txt"_s)));
         QVERIFY(readRecord(paths_->dataFile(name.toLower()).value()).ok());
         QCOMPARE(paths_->familyFolder(name.toLower(), u"STAR"_s).value(),

@@ -124,8 +124,13 @@ private Q_SLOTS:
             return lastTold(*test).contains(builtInText(task)) &&
                    lastTold(*test).contains(builtInText(u"0170"_s).section(u'\n', 0, 0));
         };
-        failing([&] { test->start(); }, 4); // the list of languages
-        QVERIFY(toldOf(u"0123"_s));
+        bool told = false;
+        for (int folder = 1; !told && folder < 9;
+             ++folder) { // one of them is the program's, with the languages
+            failing([&] { test->start(); }, folder);
+            told = toldOf(u"0123"_s);
+        }
+        QVERIFY(told);
         test->start();
         failing([&] { test->type(u"L"_s); });
         QVERIFY(says(test->mainWindow(), u"lstWords"_s, test->path(u"aeroporti"_s)));
@@ -335,7 +340,7 @@ private Q_SLOTS:
         const ArchivePaths paths(test->path({}));
         QVERIFY(!paths.picture(u"LIRF"_s, u"../OUT"_s));
         QVERIFY(!paths.presenterText(u"LIRF"_s, u"../../OUT"_s));
-        QVERIFY(!paths.dataFileForWriting(u"../OUT"_s));
+        QVERIFY(!paths.dataFile(u"../OUT"_s));
         QVERIFY(!paths.familyFolder(u".."_s, u"Sid"_s));
         QVERIFY(!resolvePath({}, u"etc/passwd"_s));
         test->write(u"out.lng"_s, "[frmMain]\r\ncmdElabora.Caption=\"OUT\"\r\n");

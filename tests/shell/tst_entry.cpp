@@ -125,7 +125,7 @@ private Q_SLOTS:
 
     void whatASaveWouldReplaceUnseenIsAskedAboutOnce() {
         NewAirport test;
-        const QString text = u"aeroporti/NEW/LIRX_Agent.txt"_s;
+        const QString text = u"aeroporti/NEW/lirx_Agent.txt"_s; // letter case does not count
         const auto save = [&test](Answer unseen) {
             test.boxes.shown.clear();
             test.boxes.answers = {Answer::Ok, unseen};

@@ -153,8 +153,7 @@ private:
             add(paths.airportFolder(name).value() + folder, nullptr);
         if (!TestProgram::control(main, u"cmdSave"_s)->isVisible() || !staysInFolder(icao)) return targets;
         add(paths.dataFile(name).value(), isRecord);
-        add(paths.presenterText(name, icao).value(),
-            [](const QByteArray& text) { return text.isEmpty(); });
+        add(paths.presenterText(name, icao).value(), [](const QByteArray& text) { return text.isEmpty(); });
         return targets;
     }
 

@@ -80,5 +80,6 @@ int main(int argc, char** argv) {
     program.show(quarvel::WindowName::frmMain);
     const quarvel::EndSignals requests([&program] { program.end(); });
     QObject::connect(&*application, &QGuiApplication::commitDataRequest, [&program] { program.flush(); });
-    return QApplication::exec();
+    QApplication::exec();
+    program.end(); // like its own button: no thread behind may outlive what it works with
 }

@@ -21,7 +21,8 @@ constexpr std::array messages = {
     OwnMessage{u"0113", u"La foto dell'aeroporto non può essere mostrata."},
     OwnMessage{u"0114", u"L'elenco delle procedure non può essere letto."},
     OwnMessage{u"0115", u"La cartina scelta non può essere mostrata."},
-    OwnMessage{u"0116", u"La cartina scelta è troppo grande per essere mostrata: resta quella di prima."},
+    OwnMessage{u"0116",
+               u"L'immagine scelta è troppo grande per essere mostrata: nella finestra non cambia nulla."},
     OwnMessage{u"0117", u"Le note della cartina non possono essere lette."},
     OwnMessage{u"0118", u"Le note non sono state salvate: quelle sul disco sono rimaste come prima."},
     OwnMessage{u"0119",
@@ -41,7 +42,7 @@ constexpr std::array messages = {
     OwnMessage{u"0132", u"Il sistema non permette di leggere:\n%1\nControlla i permessi e riprova."},
     OwnMessage{u"0133", u"Il sistema non permette di scrivere:\n%1\nControlla i permessi e che la cartella "
                         u"esista, poi riprova."},
-    OwnMessage{u"0134", u"Il disco è pieno, non c'è posto per:\n%1\nLibera dello spazio e riprova."},
+    OwnMessage{u"0134", u"Il disco è pieno e non c'è posto per:\n%1\nLibera dello spazio e riprova."},
     OwnMessage{u"0135", u"È troppo grande:\n%1\nControlla che sia il file giusto."},
     OwnMessage{u"0136", u"È incompleto:\n%1\nControlla che il file contenga tutti i suoi valori."},
     OwnMessage{u"0137", u"È danneggiato o di un altro formato:\n%1\nSostituiscilo con una copia buona."},
@@ -84,46 +85,49 @@ constexpr std::array messages = {
     OwnMessage{u"0170", u"La lettura non è riuscita:\n%1\nPuò essere un guasto passeggero del disco o della "
                         u"rete: riprova. Se si ripete, controlla il disco."},
     OwnMessage{u"0171", u"La scrittura non è riuscita:\n%1\nPuò essere un guasto passeggero del disco o "
-                        u"della rete, o un altro programma che usa il file: riprova."},
-    OwnMessage{u"0172", u"Questi file sono già quelli nuovi:\n%1\nLe copie di prima sono "
+                        u"della rete, oppure un altro programma sta usando il file: riprova."},
+    OwnMessage{u"0172", u"Questi file sono già stati sostituiti:\n%1\nLe loro versioni precedenti sono "
                         u"qui:\n%2\nConservale, controlla il disco e salva di nuovo."},
-    OwnMessage{u"0173",
-               u"Questi file sono nuovi, prima non c'erano:\n%1\nControlla il disco e salva di nuovo."},
+    OwnMessage{
+        u"0173",
+        u"Questi file prima non c'erano e sono già stati creati:\n%1\nControlla il disco e salva di nuovo."},
     OwnMessage{u"0174",
                u"Il salvataggio è riuscito solo in parte. Quello che hai scritto è ancora nella finestra."},
-    OwnMessage{u"0175",
-               u"Salvato. Questi file avevano anche altri nomi (collegamenti fisici), che conservano il "
-               u"contenuto di prima:\n%1\nSe anche quelli devono cambiare, copiali di nuovo."},
+    OwnMessage{
+        u"0175",
+        u"Salvato. Questi file avevano anche altri nomi (collegamenti fisici), che conservano il contenuto "
+        u"di prima:\n%1\nSe anche quelli devono cambiare, copia di nuovo questi file al loro posto."},
     // What the program remembers by itself.
-    OwnMessage{u"0180",
-               u"Un file con ciò che il programma ricorda per sé non si poteva usare: è stato messo da "
-               u"parte, e al suo posto ne comincia uno nuovo. I tuoi aeroporti sono come prima.\n%1"},
-    OwnMessage{u"0181", u"Il programma non può conservare ciò che ricorda per sé, come le bozze: lo ricorda "
-                        u"solo finché resta aperto."},
-    OwnMessage{u"0182", u"La versione di prima di un file che viene sostituito non può essere conservata. Il "
-                        u"salvataggio prosegue lo stesso."},
+    OwnMessage{u"0180", u"Un file con i dati che il programma conserva per sé non era utilizzabile: è stato "
+                        u"messo da parte e ne comincia uno nuovo. I tuoi aeroporti sono come prima.\n%1"},
+    OwnMessage{u"0181", u"Il programma non può conservare sul disco ciò che ricorda per sé, come le bozze: "
+                        u"lo ricorda solo finché resta aperto."},
+    OwnMessage{u"0182", u"La versione precedente di un file che viene sostituito non può essere conservata. "
+                        u"Il salvataggio prosegue lo stesso."},
     // What the command line says.
     OwnMessage{
         u"0183",
         u"Uso: quarvel [COMANDO]\n\nSenza comando si aprono le finestre.\n  versions [AEROPORTO]  elenca le "
-        u"versioni di prima dei suoi file, o di tutti\n  bring-back FILE N     riporta la versione N di un "
+        u"versioni precedenti dei suoi file, o di tutti\n  bring-back FILE N     ripristina la versione N di "
+        u"un "
         u"file dell'elenco;\n                        quella di adesso viene conservata\n  --help             "
         u"   questo testo\n  --version             il numero del programma"},
-    OwnMessage{u"0184", u"Questo non va sulla riga di comando: «%1».\n«quarvel --help» dice che cosa ci va."},
-    OwnMessage{u"0185", u"Non ci sono versioni di prima per «%1»."},
+    OwnMessage{u"0184",
+               u"Comando non riconosciuto o incompleto: «%1».\n«quarvel --help» spiega come si usa."},
+    OwnMessage{u"0185", u"Non ci sono versioni precedenti di «%1»."},
     OwnMessage{u"0186", u"Non c'è una versione %2 di «%1». «quarvel versions» elenca quelle che ci sono."},
-    OwnMessage{u"0187", u"«%1» è di nuovo com'era fino al %2. Il contenuto di prima è tra le versioni."},
-    OwnMessage{u"0188", u"La versione non è stata riportata: il file è rimasto com'era."},
+    OwnMessage{u"0187",
+               u"Ora «%1» contiene la versione del %2. Il contenuto di prima è tra le versioni precedenti."},
+    OwnMessage{u"0188", u"La versione non è stata ripristinata: il file è rimasto com'era."},
     // The question before a save.
     OwnMessage{u"0189", u"Sul disco c'è qualcosa che in questa finestra non hai visto:\n%1\nSe salvi sopra, "
-                        u"il contenuto di adesso resta tra le versioni di prima. Se rileggi, quello che hai "
-                        u"scritto diventa una bozza, e qui appare ciò che è sul disco."},
+                        u"ciò che c'è sul disco resta tra le versioni precedenti. Se rileggi, vedi qui ciò "
+                        u"che c'è sul disco, e quello che hai scritto diventa una bozza."},
     OwnMessage{u"0190", u"&Salva sopra"},
     OwnMessage{u"0191", u"&Rileggi"},
     // What is typed and not saved yet.
-    OwnMessage{u"0200",
-               u"Il testo incollato o trascinato è più lungo dello spazio che c'è nella casella: ne è "
-               u"entrato solo l'inizio. Il testo intero è ancora là da dove viene."},
+    OwnMessage{u"0200", u"Il testo incollato o trascinato è più lungo dello spazio nella casella: è entrato "
+                        u"solo quello che ci stava. Il testo intero è ancora là da dove viene."},
     // Drafts: %1 is a note's beginning, or the airport, with the number of its values.
     OwnMessage{u"0201", u"Bozza non salvata: «%1». Ctrl+Z la riprende, Esc la scarta."},
     OwnMessage{u"0202", u"C'è una bozza non salvata: Ctrl+Z la riprende, Esc la scarta"},
@@ -134,24 +138,25 @@ constexpr std::array messages = {
     OwnMessage{u"0210", u"In questa cartella ci sono anche PDF o immagini di altro tipo, che l'elenco non "
                         u"mostra: %1. Le cartine sono immagini GIF."},
     // The main window: the language, a new airport, a missing picture.
-    OwnMessage{u"0220", u"La lingua scelta vale da adesso, ma non si può ricordarla per il prossimo avvio."},
+    OwnMessage{u"0220",
+               u"La lingua scelta vale da adesso, ma non può essere ricordata per il prossimo avvio."},
     OwnMessage{u"0221",
                u"Vuoi lasciare questo aeroporto senza salvarlo? I dati che hai scritto restano come bozza."},
     OwnMessage{u"0222", u"La foto va messa qui:\n%1"},
     // A picture with rows missing. %2 is a number.
-    OwnMessage{u"0240", u"La cartina scelta non è intera: ne vedi quello che il file contiene."},
-    OwnMessage{u"0241", u"La foto dell'aeroporto non è intera: ne vedi quello che il file contiene."},
-    OwnMessage{u"0242", u"Manca la parte in basso, il %2 % dell'altezza, segnata a strisce grigie:\n%1\n"
-                        u"Sostituisci il file con una copia intera."},
-    OwnMessage{u"0243", u"Mancano delle righe, il %2 % dell'altezza, segnate a strisce grigie:\n%1\n"
-                        u"Sostituisci il file con una copia intera."},
-    OwnMessage{u"0244", u"I segni «%2», uno accanto all'altro, sarebbero riletti in un altro modo da questo "
-                        u"file:\n%1\nMetti uno spazio fra loro e riprova."},
+    OwnMessage{u"0240", u"La cartina scelta non è completa: vedi solo quello che il suo file contiene."},
+    OwnMessage{u"0241", u"La foto dell'aeroporto non è completa: vedi solo quello che il suo file contiene."},
+    OwnMessage{u"0242", u"Manca la parte in basso (%2 % dell'altezza), segnata con strisce "
+                        u"grigie:\n%1\nSostituisci il file con una copia intera."},
+    OwnMessage{u"0243", u"Mancano delle righe (%2 % dell'altezza), segnate con strisce "
+                        u"grigie:\n%1\nSostituisci il file con una copia intera."},
+    OwnMessage{u"0244", u"I segni «%2», uno accanto all'altro, in questo file verrebbero riletti come un "
+                        u"altro segno:\n%1\nMetti uno spazio fra loro e riprova."},
     // What came of printing.
     OwnMessage{u"0250", u"Il servizio di stampa del sistema non risponde: non è stato stampato nulla e nulla "
                         u"sarà stampato più tardi. Controlla che sia avviato e raggiungibile, poi riprova."},
     OwnMessage{u"0251", u"Il servizio di stampa ha smesso di rispondere mentre riceveva la pagina: non si sa "
-                        u"se sarà stampata. Prima di riprovare guarda nella coda della stampante."},
+                        u"se sarà stampata. Prima di riprovare, controlla la coda di stampa."},
 };
 
 QString numberOf(Fault fault) {

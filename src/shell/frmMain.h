@@ -88,6 +88,7 @@ private:
     [[nodiscard]] bool CheckIcaoCode();
     [[nodiscard]] AirportRecord typedRecord() const;
     [[nodiscard]] Answer askAboutUnseen(const QString& icao);
+    void readAgain();
     void backToEditing();
     void endAfterSaving();
 

@@ -82,7 +82,7 @@ void frmMain::cmdSave_Click() {
     if (c == nullptr) return;
     if (unseen != Answer::Ok) {
         backToEditing();
-        if (unseen == Answer::Again) cmdElabora_Click();
+        if (unseen == Answer::Again) readAgain();
         return;
     }
     const Result<Written> saved = saveAirport(paths_, c->txtNomeAeroporto.text(), record, beforeReplacing_);
@@ -108,6 +108,21 @@ Answer frmMain::askAboutUnseen(const QString& icao) {
     for (const FileContent& file : files.value())
         if (asked_.emplace(file.path, file.bytes).second) unseen.append(file.path);
     return unseen.isEmpty() ? Answer::Ok : prompts_.askAboutUnseen(*this, unseen);
+}
+
+/// Shows the record that the disk holds; what was typed is offered then. A presenter's text alone shows in no
+/// field: there, nothing changes.
+void frmMain::readAgain() {
+    const QString name = c->txtNomeAeroporto.text();
+    const Result<AirportRecord> record = paths_.dataFile(name).then(readRecord);
+    if (!record) {
+        if (record.failure().fault != Fault::NotFound)
+            prompts_.tell(*this, Task::ReadRecord, record.failure());
+        return;
+    }
+    recordShown_ = record.value();
+    fillFields(record.value());
+    beginDraft(name, typedFields());
 }
 
 void frmMain::endAfterSaving() {

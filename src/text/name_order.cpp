@@ -7,7 +7,8 @@ namespace quarvel {
 QString sortingKey(const QString& name) {
     const QString folded = name.normalized(QString::NormalizationForm_C).toCaseFolded();
     const auto isDigit = [](QChar character) { return character >= u'0' && character <= u'9'; };
-    const auto extension = folded.cbegin() + std::max<qsizetype>(0, folded.lastIndexOf(u'.'));
+    const qsizetype dot = folded.lastIndexOf(u'.');
+    const auto extension = dot < 0 ? folded.cend() : folded.cbegin() + dot;
     QString key;
     for (auto at = folded.cbegin(); at != folded.cend();) {
         if (!isDigit(*at)) {

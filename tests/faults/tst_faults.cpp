@@ -405,7 +405,7 @@ private Q_SLOTS:
         QTRY_COMPARE(test->boxes.shown.size(), tasks.size());
         for (qsizetype i = 0; i < tasks.size(); ++i)
             QVERIFY(test->boxes.shown[i].text.startsWith(builtInText(tasks[i]) +
-                                                         u"\n\nManca la parte in basso, il "_s));
+                                                         u"\n\nManca la parte in basso ("_s));
     }
 
     void whatMemoryDoesNotHoldIsToldAsTooLarge() {

@@ -59,7 +59,8 @@ bool namesPlaceOf(const QByteArray& bytes, const QString& text) {
 /// What is untrue about a message that says which files are new and where the old ones are.
 QString untrueAbout(const Expectation& expected, const Changes& changes, const QString& told) {
     for (const QString& path : changes.missing)
-        if (told.section(u"Le loro versioni precedenti"_s, 0, 0).contains(path)) return u"%1 is called new"_s.arg(path);
+        if (told.section(u"Le loro versioni precedenti"_s, 0, 0).contains(path))
+            return u"%1 is called new"_s.arg(path);
     for (const QString& path : changes.made) {
         if (!told.contains(path.section(u'/', -1))) return u"it does not say that %1 is new"_s.arg(path);
         if (expected.before.contains(path) && !namesPlaceOf(expected.before[path], told))

@@ -51,7 +51,7 @@ private Q_SLOTS:
 
     void filesOfFolder() {
         const QStringList names = {u"A.GIF"_s,     u"a.gif"_s,    u"b.gif"_s,     u"b2.gif"_s, u"B2a.gif"_s,
-                                   u"b002b.gif"_s, u"b010.gif"_s, u"b10 1.gif"_s, u"zgif"_s, u"È.gif"_s};
+                                   u"b002b.gif"_s, u"b010.gif"_s, u"b10 1.gif"_s, u"zgif"_s,   u"È.gif"_s};
         for (auto name = names.crbegin(); name != names.crend(); ++name) put(at(*name));
         put(at(u".hidden"_s));
         QVERIFY(QDir(root_).mkdir(u"Folder"_s));

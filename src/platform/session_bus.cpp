@@ -22,7 +22,7 @@ QByteArray socketName(const QByteArray& address) {
     if (!address.startsWith(transport)) return {};
     for (const QByteArray& pair : address.sliced(transport.size()).split(',')) {
         const qsizetype equals = pair.indexOf('=');
-        const QByteArray value = QByteArray::fromPercentEncoding(pair.mid(equals + 1));
+        QByteArray value = QByteArray::fromPercentEncoding(pair.mid(equals + 1));
         if (pair.startsWith("path=")) return value;
         if (pair.startsWith("abstract=")) return '\0' + value;
     }
@@ -51,7 +51,7 @@ bool isSilentSocket(const QByteArray& name, std::chrono::milliseconds patience) 
 } // namespace
 
 QByteArray sessionBusAddresses() {
-    if (const QByteArray told = qgetenv(variable); !told.isEmpty()) return told;
+    if (QByteArray told = qgetenv(variable); !told.isEmpty()) return told;
     const QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
     return folder.isEmpty() ? QByteArray() : "unix:path=" + folder + "/bus";
 }

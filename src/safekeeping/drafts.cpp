@@ -105,7 +105,7 @@ Drafts::All& Drafts::all() {
 Drafts::All Drafts::onDisk() {
     All drafts;
     const QJsonArray array = QJsonDocument::fromJson(store_.read(stateName())).array();
-    for (const QJsonValue& value : array)
+    for (const QJsonValue value : array)
         drafts.push_back({value[u"file"_s].toString(), value[u"text"_s].toString()});
     return drafts;
 }

@@ -19,7 +19,7 @@ QString draftOf(const QStringList& values) {
 
 QStringList valuesIn(const QString& draft) {
     QStringList values;
-    for (const QJsonValue& value : QJsonDocument::fromJson(draft.toUtf8()).array())
+    for (const QJsonValue value : QJsonDocument::fromJson(draft.toUtf8()).array())
         values.append(value.toString());
     return values;
 }

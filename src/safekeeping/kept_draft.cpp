@@ -33,8 +33,9 @@ void KeptDraft::refused() { drafts_->dropNewest(file_); }
 
 void KeptDraft::saved(const QString& text) {
     if (isEnded()) return;
-    drafts_->dropAll(file_);
     saved_ = text;
+    if (own_ == Own::Not) return; // what is offered and was not taken has not been saved
+    drafts_->dropAll(file_);
     own_ = Own::Not;
 }
 

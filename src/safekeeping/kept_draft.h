@@ -30,7 +30,7 @@ public:
     void taken() { own_ = Own::Taken; }
     /// The user does not want the offered draft.
     void refused();
-    /// The text was saved: the file has no drafts any more.
+    /// The text was saved. What was typed or taken is no draft any more; one that is only offered stays.
     void saved(const QString& text);
 
 private:

@@ -49,6 +49,8 @@ private Q_SLOTS:
             {"taken and gone on with", u"tczTc"_s, u"T"_s, u"T"_s},
             {"dropped", u"tce"_s, {}, {}},
             {"saved", u"ts"_s, {}, {}},
+            {"taken and saved", u"tczs"_s, {}, {}},
+            {"left alone while another box is saved", u"tcs"_s, u"t"_s, u"t"_s},
             {"passed over, it stays behind the new one", u"tcTce"_s, u"t"_s, u"t"_s},
         };
         for (const auto& [name, deeds, newest, offered] : rows)

@@ -201,7 +201,7 @@ private Q_SLOTS:
             box.show();
             QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Return, {}, {}, true);
             qApp->notify(&box, &repeat);
-            for (const quint64 time : {5, 6}) // X11's repeats may come as releases and presses of one time
+            for (const quint64 time : {5U, 6U}) // X11's repeats may come as releases and presses of one time
                 for (const auto type : {QEvent::KeyRelease, QEvent::ShortcutOverride, QEvent::KeyPress}) {
                     QKeyEvent untold(type, Qt::Key_Return, {});
                     untold.setTimestamp(time);

@@ -8,7 +8,7 @@ namespace quarvel {
 /// How long the window's thread waits for another process at most.
 inline constexpr std::chrono::milliseconds busPatience{500};
 
-/// Where the session bus is, as the environment tells: addresses by the D-Bus specification, parted by
+/// Where the session bus is, as the environment tells: addresses as D-Bus writes them, parted by
 /// semicolons.
 [[nodiscard]] QByteArray sessionBusAddresses();
 

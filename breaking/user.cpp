@@ -15,6 +15,7 @@ namespace breaking {
 namespace {
 
 constexpr int lookMilliseconds = 1;
+constexpr int draftMilliseconds = 1500; // until what was typed is on the disk as a draft
 
 QWidget* window(const QString& name) {
     for (QWidget* each : QApplication::topLevelWidgets())
@@ -100,8 +101,9 @@ void prepare(Saving what) {
     case Saving::Record: prepareRecord(); break;
     case Saving::Notes: prepareNotes(allNotes); break;
     case Saving::NewNotes: prepareNotes(twoNotes); break;
-    case Saving::Language: break;
+    case Saving::Language: return;
     }
+    QTest::qWait(draftMilliseconds); // the thread that writes it would not come along into a child
 }
 
 void save(Saving what, QStringList& boxes) {

@@ -61,6 +61,12 @@ void StateStore::write(const StateName& name, const QByteArray& content) {
     if (!written) reportNotKept(written.failure());
 }
 
+void StateStore::writeAgain(const StateName& name) {
+    const std::scoped_lock lock(inUse_);
+    Known& known = known_[name.name];
+    if (known.notKept && writeFile(name, *known.notKept)) known.notKept.reset();
+}
+
 Result<void> StateStore::writeFile(const StateName& name, const QByteArray& content) const {
     if (!known_.at(name.name).usable) return Failure{Fault::Unwritable, pathOf(name), {}};
     if (Result<void> made = makeFolder(folder_, access_); !made) return made;

@@ -35,6 +35,8 @@ public:
     /// renamed, one that cannot be read now is left alone; neither is replaced.
     [[nodiscard]] QByteArray read(const StateName& name);
     void write(const StateName& name, const QByteArray& content);
+    /// Tries once more to write what could not be written.
+    void writeAgain(const StateName& name);
 
 private:
     [[nodiscard]] QByteArray contentOf(const StateName& name);

@@ -35,28 +35,25 @@ Drafts::Drafts(StateStore& store) : store_(store) {
 }
 
 std::optional<QString> Drafts::newest(const QString& file) {
-    const auto found = std::find_if(all().cbegin(), all().cend(),
-                                    [&file](const Draft& draft) { return draft.file == file; });
+    const auto found = find(file);
     return found == all().cend() ? std::nullopt : std::optional(found->text);
 }
 
 void Drafts::keep(const QString& file, const QString& text, Beside beside) {
-    if (beside == Beside::Older) dropNewest(file);
-    std::erase_if(all(), [&](const Draft& draft) { return draft.file == file && draft.text == text; });
+    // What is typed on the way to another text may for a moment be the same as an older draft, which stays.
+    if (beside == Beside::Older)
+        dropNewest(file);
+    else
+        std::erase_if(all(), [&](const Draft& draft) { return draft.file == file && draft.text == text; });
     all().insert(all().begin(), {file, text});
     changed(file);
 }
 
 void Drafts::dropNewest(const QString& file) {
-    const auto found = std::find_if(all().cbegin(), all().cend(),
-                                    [&file](const Draft& draft) { return draft.file == file; });
+    const auto found = find(file);
     if (found == all().cend()) return;
     all().erase(found);
     changed(file);
-}
-
-void Drafts::dropAll(const QString& file) {
-    if (std::erase_if(all(), [&file](const Draft& draft) { return draft.file == file; }) > 0) changed(file);
 }
 
 void Drafts::writeBehind() {
@@ -73,6 +70,7 @@ void Drafts::flush() {
     writer_.waitForDone();
     if (!changed_.isEmpty()) write(changes());
     changed_.clear();
+    store_.writeAgain(stateName()); // where the disk has refused and may be well by now
 }
 
 Drafts::Changes Drafts::changes() {
@@ -90,8 +88,9 @@ void Drafts::write(Changes changes) {
     QJsonArray array;
     qsizetype characters = 0;
     for (const Draft& draft : merged) {
+        if (static_cast<std::size_t>(array.size()) == mostDrafts) break;
+        if (characters + draft.text.size() > mostCharacters) continue; // the shorter ones behind it stay
         characters += draft.text.size();
-        if (static_cast<std::size_t>(array.size()) == mostDrafts || characters > mostCharacters) break;
         array.append(QJsonObject{{u"file"_s, draft.file}, {u"text"_s, draft.text}});
     }
     store_.write(stateName(), QJsonDocument(array).toJson(QJsonDocument::Compact));
@@ -100,6 +99,11 @@ void Drafts::write(Changes changes) {
 Drafts::All& Drafts::all() {
     if (!all_) all_ = onDisk();
     return *all_;
+}
+
+Drafts::All::const_iterator Drafts::find(const QString& file) {
+    return std::find_if(all().cbegin(), all().cend(),
+                        [&file](const Draft& draft) { return draft.file == file; });
 }
 
 Drafts::All Drafts::onDisk() {

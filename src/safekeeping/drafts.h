@@ -32,7 +32,6 @@ public:
     };
     void keep(const QString& file, const QString& text, Beside beside);
     void dropNewest(const QString& file);
-    void dropAll(const QString& file);
 
     /// Writes what is not on the disk yet, and waits for it. For the program's end.
     void flush();
@@ -50,6 +49,8 @@ private:
     };
 
     [[nodiscard]] All& all();
+    /// The newest draft for a file, or the end.
+    [[nodiscard]] All::const_iterator find(const QString& file);
     [[nodiscard]] All onDisk();
     void changed(const QString& file);
     [[nodiscard]] Changes changes();

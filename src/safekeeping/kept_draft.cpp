@@ -6,7 +6,14 @@ void KeptDraft::begin(const QString& file, const QString& saved) {
     file_ = file;
     saved_ = saved;
     own_ = Own::Not;
-    while (drafts_->newest(file) == saved) drafts_->dropNewest(file); // saved meanwhile, whoever did it
+    dropSaved(); // whoever saved it meanwhile
+}
+
+void KeptDraft::leftStanding(const QString& text) {
+    if (drafts_->newest(file_) == text)
+        own_ = Own::Taken;
+    else
+        saved_ = text;
 }
 
 void KeptDraft::beginAgain() {
@@ -29,14 +36,22 @@ std::optional<QString> KeptDraft::offer() const {
     return isEnded() || own_ != Own::Not ? std::nullopt : drafts_->newest(file_);
 }
 
-void KeptDraft::refused() { drafts_->dropNewest(file_); }
+void KeptDraft::refused() {
+    drafts_->dropNewest(file_);
+    dropSaved();
+}
 
 void KeptDraft::saved(const QString& text) {
     if (isEnded()) return;
     saved_ = text;
     if (own_ == Own::Not) return; // what is offered and was not taken has not been saved
-    drafts_->dropAll(file_);
+    drafts_->dropNewest(file_);   // one from before that was passed over stays
     own_ = Own::Not;
+    dropSaved();
+}
+
+void KeptDraft::dropSaved() {
+    while (drafts_->newest(file_) == saved_) drafts_->dropNewest(file_);
 }
 
 } // namespace quarvel

@@ -16,6 +16,9 @@ public:
 
     /// A file's saved text is shown, and what was typed before it is now a draft to be offered.
     void begin(const QString& file, const QString& saved);
+    /// This stands there although nobody typed it for the file: it becomes a draft only when the user goes on
+    /// with it, unless it is the newest draft itself.
+    void leftStanding(const QString& text);
     /// The saved text is shown again, by the user's wish.
     void beginAgain();
     /// No file's text is shown any more.
@@ -30,7 +33,8 @@ public:
     void taken() { own_ = Own::Taken; }
     /// The user does not want the offered draft.
     void refused();
-    /// The text was saved. What was typed or taken is no draft any more; one that is only offered stays.
+    /// The text was saved. What was typed or taken is no draft any more; one that is only offered stays,
+    /// and so does one from before that was passed over.
     void saved(const QString& text);
 
 private:
@@ -40,6 +44,8 @@ private:
         Typed, ///< what the user has typed since
         Taken  ///< the offered one, which the user has taken and may have gone on with
     };
+
+    void dropSaved();
 
     Drafts* drafts_;
     QString file_;

@@ -36,7 +36,7 @@ QString frmMain::noFields() { return draftOf(QStringList(recordSize)); }
 
 void frmMain::beginDraft(const QString& airport, const QString& saved) {
     newAirport_.begin(draftName(airport, u"Aeroporto"_s, airport), saved);
-    txtRwy_Edited(); // the fields may still hold what was typed under another name
+    showOffer();
 }
 
 void frmMain::endDraft() {

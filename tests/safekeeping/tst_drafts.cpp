@@ -51,6 +51,10 @@ private Q_SLOTS:
             {"saved", u"ts"_s, {}, {}},
             {"taken and saved", u"tczs"_s, {}, {}},
             {"left alone while another box is saved", u"tcs"_s, u"t"_s, u"t"_s},
+            {"passed over, it outlives the save of the new one", u"tcTs"_s, u"t"_s, u"t"_s},
+            {"passed over and typed on the way to another", u"tcTtTce"_s, u"t"_s, u"t"_s},
+            {"left standing by another airport, it hides no offer", u"tclT"_s, u"T"_s, {}},
+            {"left standing and not touched, it is no draft", u"tcl"_s, u"t"_s, u"t"_s},
             {"passed over, it stays behind the new one", u"tcTce"_s, u"t"_s, u"t"_s},
         };
         for (const auto& [name, deeds, newest, offered] : rows)
@@ -67,6 +71,7 @@ private Q_SLOTS:
             case u'c': run.kept.begin(route, u"saved"_s); break;
             case u'z': run.kept.taken(); break;
             case u'e': run.kept.refused(); break;
+            case u'l': run.kept.leftStanding(deed); break;
             case u's': run.kept.saved(deed); break;
             default: run.kept.typed(deed); break;
             }

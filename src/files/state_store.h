@@ -18,8 +18,8 @@ enum class StateTrouble {
     NotKept   ///< a content could not be read or written: what comes now lasts for this run
 };
 
-/// What the program remembers by itself, one file a name, each with one reader and one writer. It is not the
-/// user's work: all of it may be deleted at any time. Where it cannot be written it is remembered for the
+/// What the program remembers by itself, one file a name, each with one reader and one writer. The program
+/// starts without any of it; the drafts lie nowhere else. Where it cannot be written it is remembered for the
 /// run. The store reports both troubles by itself, in the thread of whoever called it: for its users there is
 /// always a content. It may be used from any thread.
 class StateStore {

@@ -79,11 +79,17 @@ Drafts::Changes Drafts::changes() {
     return now;
 }
 
-void Drafts::write(Changes changes) {
+void Drafts::write(const Changes& changes) {
     // What another copy of the program has written meanwhile stays, behind what was typed here.
-    All merged = std::move(changes.drafts);
+    const auto replaced = [&](const Draft& draft) {
+        return changes.files.contains(draft.file) &&
+               std::find(seen_.cbegin(), seen_.cend(), draft) != seen_.cend();
+    };
+    All merged = changes.drafts;
     for (Draft& draft : onDisk())
-        if (!changes.files.contains(draft.file)) merged.push_back(std::move(draft));
+        if (!replaced(draft)) merged.push_back(std::move(draft));
+    std::erase_if(seen_, [&](const Draft& draft) { return changes.files.contains(draft.file); });
+    seen_.insert(seen_.end(), changes.drafts.cbegin(), changes.drafts.cend());
 
     QJsonArray array;
     qsizetype characters = 0;
@@ -97,7 +103,7 @@ void Drafts::write(Changes changes) {
 }
 
 Drafts::All& Drafts::all() {
-    if (!all_) all_ = onDisk();
+    if (!all_) all_ = seen_ = onDisk();
     return *all_;
 }
 

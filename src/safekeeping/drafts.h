@@ -40,6 +40,7 @@ private:
     struct Draft {
         QString file;
         QString text;
+        [[nodiscard]] bool operator==(const Draft& other) const = default;
     };
     using All = std::vector<Draft>; // the newest first
     /// What is not on the disk as it is here: all drafts of some files.
@@ -55,10 +56,12 @@ private:
     void changed(const QString& file);
     [[nodiscard]] Changes changes();
     void writeBehind();
-    void write(Changes changes);
+    void write(const Changes& changes);
 
     StateStore& store_;
     std::optional<All> all_; ///< once they have been asked for
+    All seen_; ///< what this copy has read or written; all else on the disk is another's. Of the writing
+               ///< thread
     QSet<QString> changed_;
     QTimer soon_;
     QThreadPool writer_; ///< of one thread

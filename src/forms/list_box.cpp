@@ -40,10 +40,6 @@ public:
         if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return row_(index.row());
         return role == Qt::AccessibleDescriptionRole && isSigned(index.row()) ? spokenSign : QVariant();
     }
-    [[nodiscard]] bool isMarked(int row) const { return marked && marked(row_(row)); }
-
-    std::function<bool(const QString&)> marked;
-    QString spokenMark;
     void signsChanged() {
         if (count_ > 0) Q_EMIT dataChanged(index(0), index(count_ - 1), {Qt::AccessibleDescriptionRole});
     }

@@ -49,10 +49,10 @@ bool isUsedByOffer(const TextBoxEvents& events, const QKeyEvent& event, OwnUndo 
     if (events.offered == Offered::No) return false;
     const bool taken = undo == OwnUndo::Nothing && event.matches(QKeySequence::Undo);
     const bool refused = event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier;
+    if (!taken && !refused) return false;
     // A key that is held answers one offer: what it would drop next has not been read.
-    if (taken && !event.isAutoRepeat()) events.offerTaken.raise();
-    if (refused && !event.isAutoRepeat()) events.offerRefused.raise();
-    return taken || refused;
+    if (!event.isAutoRepeat()) (taken ? events.offerTaken : events.offerRefused).raise();
+    return true;
 }
 
 bool hasWordsFrom(const QString& text, qsizetype place) {

@@ -60,8 +60,8 @@ private:
 
     StateStore& store_;
     std::optional<All> all_; ///< once they have been asked for
-    All seen_; ///< what this copy has read or written; all else on the disk is another's. Of the writing
-               ///< thread
+    /// What this copy has read or written; all else on the disk is another's. Of the writing thread.
+    All seen_;
     QSet<QString> changed_;
     QTimer soon_;
     QThreadPool writer_; ///< of one thread

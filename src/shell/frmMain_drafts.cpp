@@ -36,6 +36,7 @@ QString frmMain::noFields() { return draftOf(QStringList(recordSize)); }
 
 void frmMain::beginDraft(const QString& airport, const QString& saved) {
     newAirport_.begin(draftName(airport, u"Aeroporto"_s, airport), saved);
+    newAirport_.leftStanding(typedFields()); // of an airport that was open, or typed under another name
     showOffer();
 }
 

@@ -133,8 +133,6 @@ void frmMain::startNewAirport(const QString& name, const Before& before) {
     c->txtNomeAeroporto.setUsable(Usable::Yes);
     c->txtRwy[IcaoCode].setFocus();
     beginDraft(name, noFields());
-    newAirport_.leftStanding(typedFields()); // of the airport that was open, or typed under another name
-    showOffer();
 }
 
 void frmMain::showAirport(const QString& name, const Before& before) {

@@ -43,7 +43,9 @@ Result<Written> saveAirport(const ArchivePaths& paths, const QString& name, cons
 }
 
 Result<std::vector<FileContent>> unseenFiles(const ArchivePaths& paths, const QString& name,
-                                             const QString& icao, const std::optional<AirportRecord>& shown) {
+                                             const AirportRecord& next,
+                                             const std::optional<AirportRecord>& shown) {
+    const Result<QByteArray> bytesOfNext = recordBytes(next, {});
     std::vector<FileContent> unseen;
     const auto look = [&unseen](const Result<QString>& path, qint64 maxBytes, auto isSeen) {
         const Result<QByteArray> bytes =
@@ -53,11 +55,14 @@ Result<std::vector<FileContent>> unseenFiles(const ArchivePaths& paths, const QS
         if (!isSeen(bytes.value())) unseen.push_back({path.value(), bytes.value()});
         return Result<void>();
     };
-    const Result<void> record = look(paths.dataFile(name), largestRecordBytes,
-                                     [&shown](const QByteArray& bytes) { return isSeen(bytes, shown); });
+    const Result<void> record = look(paths.dataFile(name), largestRecordBytes, [&](const QByteArray& bytes) {
+        // What is on the disk already, as after a save that failed in part, is not taken away.
+        return (bytesOfNext && bytes == bytesOfNext.value()) || isSeen(bytes, shown);
+    });
     if (!record) return record.failure();
-    const Result<void> text = look(paths.presenterText(name, icao), largestTextBytes,
-                                   [](const QByteArray& bytes) { return bytes.trimmed().isEmpty(); });
+    const Result<void> text =
+        look(paths.presenterText(name, storableValue(next.values[IcaoCode])), largestTextBytes,
+             [](const QByteArray& bytes) { return bytes.trimmed().isEmpty(); });
     if (!text) return text.failure();
     return unseen;
 }

@@ -19,11 +19,11 @@ namespace quarvel {
                                           const AirportRecord& record,
                                           const BeforeReplacing& beforeReplacing = {});
 
-/// Of the files that saveAirport replaces, those that hold what nobody has seen who knows the record `shown`
-/// (none for a new airport): a data file that is another record, or more than one, and a presenter text,
-/// which the save empties. Fails with the faults of readWholeFile.
+/// Of the files that saveAirport replaces by `next`, those that hold what nobody has seen who knows the
+/// record `shown` (none for a new airport): a data file that is another record, or more than one, and a
+/// presenter text, which the save empties. Fails with the faults of readWholeFile.
 [[nodiscard]] Result<std::vector<FileContent>> unseenFiles(const ArchivePaths& paths, const QString& name,
-                                                           const QString& icao,
+                                                           const AirportRecord& next,
                                                            const std::optional<AirportRecord>& shown);
 
 } // namespace quarvel

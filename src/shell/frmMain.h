@@ -87,7 +87,7 @@ private:
     void cmdSave_Click();
     [[nodiscard]] bool CheckIcaoCode();
     [[nodiscard]] AirportRecord typedRecord() const;
-    [[nodiscard]] Answer askAboutUnseen(const QString& icao);
+    [[nodiscard]] Answer askAboutUnseen(const AirportRecord& next);
     void readAgain();
     void backToEditing();
     void endAfterSaving();

@@ -78,7 +78,7 @@ void frmMain::cmdSave_Click() {
         return;
     }
     const AirportRecord record = typedRecord();
-    const Answer unseen = askAboutUnseen(storableValue(record.values[IcaoCode]));
+    const Answer unseen = askAboutUnseen(record);
     if (c == nullptr) return;
     if (unseen != Answer::Ok) {
         backToEditing();
@@ -98,8 +98,8 @@ void frmMain::cmdSave_Click() {
 }
 
 /// Asks once for a file and its content; Ok where there is nothing to ask.
-Answer frmMain::askAboutUnseen(const QString& icao) {
-    const auto files = unseenFiles(paths_, c->txtNomeAeroporto.text(), icao, recordShown_);
+Answer frmMain::askAboutUnseen(const AirportRecord& next) {
+    const auto files = unseenFiles(paths_, c->txtNomeAeroporto.text(), next, recordShown_);
     if (!files) {
         prompts_.tell(*this, Task::SaveAirport, files.failure());
         return Answer::Cancel;

@@ -24,7 +24,7 @@ Result<void> makeFolder(const QString& path, FolderAccess access) {
     if (::mkdir(systemName(path).constData(), mode) == 0) return {};
     const int error = errno;
     if (isFolder(path).valueOr(false)) return {}; // another process was quicker
-    return writeFailure(path, error);
+    return error == EEXIST ? Failure{Fault::NotFolder, path, {}} : writeFailure(path, error);
 }
 
 } // namespace quarvel

@@ -11,6 +11,7 @@ namespace quarvel {
 enum class Fault {
     NotFound,      ///< no such file or folder
     NotRegular,    ///< a folder, a device or a pipe stands where a file is expected
+    NotFolder,     ///< a file stands where a folder is expected
     Unreadable,    ///< the system does not allow to open or read it
     Unwritable,    ///< the system does not allow to create, write or replace it
     ReadFailed,    ///< reading failed, and may succeed the next time

@@ -152,6 +152,8 @@ constexpr std::array messages = {
                         u"grigie:\n%1\nSostituisci il file con una copia intera."},
     OwnMessage{u"0244", u"I segni «%2», uno accanto all'altro, in questo file verrebbero riletti come un "
                         u"altro segno:\n%1\nMetti uno spazio fra loro e riprova."},
+    OwnMessage{u"0245",
+               u"Qui serve una cartella, ma c'è un file:\n%1\nSpostalo o dagli un altro nome, poi riprova."},
     // What came of printing.
     OwnMessage{u"0250", u"Il servizio di stampa del sistema non risponde: non è stato stampato nulla e nulla "
                         u"sarà stampato più tardi. Controlla che sia avviato e raggiungibile, poi riprova."},
@@ -163,6 +165,7 @@ QString numberOf(Fault fault) {
     switch (fault) {
     case Fault::NotFound: return u"0130"_s;
     case Fault::NotRegular: return u"0131"_s;
+    case Fault::NotFolder: return u"0245"_s;
     case Fault::Unreadable: return u"0132"_s;
     case Fault::Unwritable: return u"0133"_s;
     case Fault::DiskFull: return u"0134"_s;

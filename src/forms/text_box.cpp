@@ -6,7 +6,6 @@
 #include <QDropEvent>
 #include <QFocusEvent>
 #include <QFont>
-#include <QFontMetrics>
 #include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -77,23 +76,10 @@ public:
     }
     EntryLimit limit;
 
-    /// Writes a text smaller that is a little too long for the box, as far as it stays readable.
-    void fit() {
-        constexpr double smallest = 0.8;
-        if (!aboutToBeSeen_) return;
-        const double scale = std::min(1.0, room() / std::max(1.0, static_cast<double>(widthIn(font_))));
-        QFont fitted = font_;
-        fitted.setPointSizeF(font_.pointSizeF() * std::max(scale, smallest));
-        setFont(fitted);
-    }
-
 protected:
     bool event(QEvent* event) override {
-        if (event->type() == QEvent::Polish) {
-            aboutToBeSeen_ = true;
-            fit();
-        }
-        if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && widthIn(font()) > room()) {
+        if (event->type() == QEvent::Polish) setFont(font_);
+        if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && isCut()) {
             QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
             return true;
         }
@@ -145,16 +131,13 @@ protected:
     }
 
 private:
-    [[nodiscard]] int widthIn(const QFont& font) const {
-        return QFontMetrics(font).horizontalAdvance(text());
-    }
-    [[nodiscard]] int room() const {
+    [[nodiscard]] bool isCut() const {
         constexpr int margins = 5; // the toolkit's own, on both sides, and the cursor
         QStyleOptionFrame option;
         initStyleOption(&option);
-        return style()->subElementRect(QStyle::SE_LineEditContents, &option, this).width() - margins;
+        const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+        return fontMetrics().horizontalAdvance(text()) > inside.width() - margins;
     }
-
     [[nodiscard]] DropKind kindOf(const QDropEvent& event) {
         QString whole = text();
         whole.insert(cursorPositionAt(event.position().toPoint()), event.mimeData()->text());
@@ -162,7 +145,6 @@ private:
     }
 
     bool typing_ = false;
-    bool aboutToBeSeen_ = false;
     QFont font_;
     TextBoxEvents& events_;
 };
@@ -180,10 +162,8 @@ TextBox::TextBox(Container& container, const ControlSpec& spec)
     edit().setAutoFillBackground(
         false); // it fills its round frame itself; what lies below shows in the corners
     edit().setText(QString::fromUtf16(spec.caption));
-    QObject::connect(&edit(), &QLineEdit::textChanged, &edit(), [this](const QString& text) {
-        static_cast<LineEdit&>(edit()).limit.follow(text);
-        static_cast<LineEdit&>(edit()).fit();
-    });
+    QObject::connect(&edit(), &QLineEdit::textChanged, &edit(),
+                     [this](const QString& text) { static_cast<LineEdit&>(edit()).limit.follow(text); });
     QObject::connect(&edit(), &QLineEdit::textEdited, &edit(), [this] { events.edited.raise(); });
 }
 

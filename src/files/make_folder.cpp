@@ -17,7 +17,7 @@ constexpr mode_t ownerMode = 0700;
 } // namespace
 
 Result<void> makeFolder(const QString& path, FolderAccess access) {
-    if (isFolder(path).valueOr(false)) return {};
+    if (const Result<bool> is = isFolder(path); !is || is.value()) return is ? Result<void>() : is.failure();
     if (const QString above = QFileInfo(path).path(); above != path)
         if (Result<void> made = makeFolder(above, access); !made) return made;
     const mode_t mode = access == FolderAccess::Usual ? usualMode : ownerMode;

@@ -32,13 +32,18 @@ StateStore::StateStore(QString folder, FolderAccess access, Report report)
 
 QByteArray StateStore::read(const StateName& name) {
     const std::scoped_lock lock(inUse_);
-    return contentOf(name);
+    const Known& known = known_[name.name];
+    return known.notKept ? *known.notKept : onDisk(name);
 }
 
-QByteArray StateStore::contentOf(const StateName& name) {
+QByteArray StateStore::readFromDisk(const StateName& name) {
+    const std::scoped_lock lock(inUse_);
+    return onDisk(name);
+}
+
+QByteArray StateStore::onDisk(const StateName& name) {
     Known& known = known_[name.name];
     known.looked = true;
-    if (known.notKept) return *known.notKept;
     if (!known.usable) return {};
     const Result<QByteArray> bytes = readWholeFile(pathOf(name), maxStateBytes);
     if (!bytes) {
@@ -51,20 +56,15 @@ QByteArray StateStore::contentOf(const StateName& name) {
     return {};
 }
 
-void StateStore::write(const StateName& name, const QByteArray& content) {
+Kept StateStore::write(const StateName& name, const QByteArray& content) {
     const std::scoped_lock lock(inUse_);
     if (!known_[name.name].looked)
-        static_cast<void>(contentOf(name)); // lest a file be replaced that nobody could use
+        static_cast<void>(onDisk(name)); // lest a file be replaced that nobody could use
     Known& known = known_[name.name];
     const Result<void> written = writeFile(name, content);
     known.notKept = written ? std::nullopt : std::optional(content);
     if (!written) reportNotKept(written.failure());
-}
-
-void StateStore::writeAgain(const StateName& name) {
-    const std::scoped_lock lock(inUse_);
-    Known& known = known_[name.name];
-    if (known.notKept && writeFile(name, *known.notKept)) known.notKept.reset();
+    return written ? Kept::Yes : Kept::No;
 }
 
 Result<void> StateStore::writeFile(const StateName& name, const QByteArray& content) const {

@@ -18,6 +18,8 @@ enum class StateTrouble {
     NotKept   ///< a content could not be read or written: what comes now lasts for this run
 };
 
+enum class Kept { No, Yes }; ///< whether it is on the disk
+
 /// What the program remembers by itself, one file a name, each with one reader and one writer. The program
 /// starts without any of it; the drafts lie nowhere else. Where it cannot be written it is remembered for the
 /// run. The store reports both troubles by itself, in the thread of whoever called it: for its users there is
@@ -34,12 +36,12 @@ public:
     /// The content last written, empty when there is none. A file that is damaged or of another version is
     /// renamed, one that cannot be read now is left alone; neither is replaced.
     [[nodiscard]] QByteArray read(const StateName& name);
-    void write(const StateName& name, const QByteArray& content);
-    /// Tries once more to write what could not be written.
-    void writeAgain(const StateName& name);
+    /// The same, but not what could not be written.
+    [[nodiscard]] QByteArray readFromDisk(const StateName& name);
+    Kept write(const StateName& name, const QByteArray& content);
 
 private:
-    [[nodiscard]] QByteArray contentOf(const StateName& name);
+    [[nodiscard]] QByteArray onDisk(const StateName& name);
 
     /// What this run knows of one name.
     struct Known {

@@ -40,11 +40,7 @@ std::optional<QString> Drafts::newest(const QString& file) {
 }
 
 void Drafts::keep(const QString& file, const QString& text, Beside beside) {
-    // What is typed on the way to another text may for a moment be the same as an older draft, which stays.
-    if (beside == Beside::Older)
-        dropNewest(file);
-    else
-        std::erase_if(all(), [&](const Draft& draft) { return draft.file == file && draft.text == text; });
+    if (beside == Beside::Older) dropNewest(file);
     all().insert(all().begin(), {file, text});
     changed(file);
 }
@@ -56,11 +52,17 @@ void Drafts::dropNewest(const QString& file) {
     changed(file);
 }
 
+/// What the disk refused is still to be written: it may be well by now.
+void Drafts::takeBackRefused() {
+    if (lastWrite_ == Kept::No) changed_.unite(handedOver_);
+}
+
 void Drafts::writeBehind() {
+    takeBackRefused();
     Changes now = changes();
     // While the disk is still busy with the last ones, they wait.
-    if (writer_.tryStart([this, now] { write(now); }))
-        changed_.clear();
+    if (writer_.tryStart([this, now] { lastWrite_ = write(now); }))
+        handedOver_ = std::exchange(changed_, {});
     else
         soon_.start();
 }
@@ -68,9 +70,9 @@ void Drafts::writeBehind() {
 void Drafts::flush() {
     soon_.stop();
     writer_.waitForDone();
-    if (!changed_.isEmpty()) write(changes());
-    changed_.clear();
-    store_.writeAgain(stateName()); // where the disk has refused and may be well by now
+    takeBackRefused();
+    if (!changed_.isEmpty()) lastWrite_ = write(changes());
+    handedOver_ = std::exchange(changed_, {});
 }
 
 Drafts::Changes Drafts::changes() {
@@ -79,7 +81,7 @@ Drafts::Changes Drafts::changes() {
     return now;
 }
 
-void Drafts::write(const Changes& changes) {
+Kept Drafts::write(const Changes& changes) {
     // What another copy of the program has written meanwhile stays, behind what was typed here.
     const auto replaced = [&](const Draft& draft) {
         return changes.files.contains(draft.file) &&
@@ -88,8 +90,6 @@ void Drafts::write(const Changes& changes) {
     All merged = changes.drafts;
     for (Draft& draft : onDisk())
         if (!replaced(draft)) merged.push_back(std::move(draft));
-    std::erase_if(seen_, [&](const Draft& draft) { return changes.files.contains(draft.file); });
-    seen_.insert(seen_.end(), changes.drafts.cbegin(), changes.drafts.cend());
 
     QJsonArray array;
     qsizetype characters = 0;
@@ -99,7 +99,11 @@ void Drafts::write(const Changes& changes) {
         characters += draft.text.size();
         array.append(QJsonObject{{u"file"_s, draft.file}, {u"text"_s, draft.text}});
     }
-    store_.write(stateName(), QJsonDocument(array).toJson(QJsonDocument::Compact));
+    const Kept kept = store_.write(stateName(), QJsonDocument(array).toJson(QJsonDocument::Compact));
+    if (kept == Kept::No) return kept;
+    std::erase_if(seen_, [&](const Draft& draft) { return changes.files.contains(draft.file); });
+    seen_.insert(seen_.end(), changes.drafts.cbegin(), changes.drafts.cend());
+    return kept;
 }
 
 Drafts::All& Drafts::all() {
@@ -114,7 +118,7 @@ Drafts::All::const_iterator Drafts::find(const QString& file) {
 
 Drafts::All Drafts::onDisk() {
     All drafts;
-    const QJsonArray array = QJsonDocument::fromJson(store_.read(stateName())).array();
+    const QJsonArray array = QJsonDocument::fromJson(store_.readFromDisk(stateName())).array();
     for (const QJsonValue value : array)
         drafts.push_back({value[u"file"_s].toString(), value[u"text"_s].toString()});
     return drafts;

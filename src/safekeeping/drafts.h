@@ -6,6 +6,7 @@
 #include <QString>
 #include <QThreadPool>
 #include <QTimer>
+#include <atomic>
 #include <optional>
 #include <vector>
 
@@ -56,13 +57,16 @@ private:
     void changed(const QString& file);
     [[nodiscard]] Changes changes();
     void writeBehind();
-    void write(const Changes& changes);
+    Kept write(const Changes& changes);
+    void takeBackRefused();
 
     StateStore& store_;
     std::optional<All> all_; ///< once they have been asked for
     /// What this copy has read or written; all else on the disk is another's. Of the writing thread.
     All seen_;
     QSet<QString> changed_;
+    QSet<QString> handedOver_; ///< to the thread, the last time
+    std::atomic<Kept> lastWrite_ = Kept::Yes;
     QTimer soon_;
     QThreadPool writer_; ///< of one thread
 };

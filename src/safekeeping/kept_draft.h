@@ -16,9 +16,9 @@ public:
 
     /// A file's saved text is shown, and what was typed before it is now a draft to be offered.
     void begin(const QString& file, const QString& saved);
-    /// This stands there although nobody typed it for the file: it becomes a draft only when the user goes on
-    /// with it, unless it is the newest draft itself.
-    void leftStanding(const QString& text);
+    /// The same, while a text that another file left still stands there. Where it was typed it is a draft of
+    /// this file, too, unless that has one already; else only once the user goes on with it.
+    void beginOver(const QString& file, const QString& saved, const QString& standing);
     /// The saved text is shown again, by the user's wish.
     void beginAgain();
     /// No file's text is shown any more.
@@ -50,6 +50,7 @@ private:
     Drafts* drafts_;
     QString file_;
     QString saved_;
+    std::optional<QString> standing_; ///< what another file left, untouched
     Own own_ = Own::Not;
 };
 

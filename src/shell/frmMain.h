@@ -96,8 +96,10 @@ private:
     void txtRwy_Edited();
     void txtRwy_OfferTaken();
     void txtRwy_OfferRefused();
-    /// An airport is entered, of which this is saved, with the fields as they are.
+    /// An airport is entered, of which this is saved and stands in the fields.
     void beginDraft(const QString& airport, const QString& saved);
+    /// A new airport is entered; the fields may still hold another's data.
+    void beginNewDraft(const QString& airport);
     void endDraft();
     void showOffer();
     [[nodiscard]] QString typedFields() const;

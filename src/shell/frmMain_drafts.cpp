@@ -36,7 +36,13 @@ QString frmMain::noFields() { return draftOf(QStringList(recordSize)); }
 
 void frmMain::beginDraft(const QString& airport, const QString& saved) {
     newAirport_.begin(draftName(airport, u"Aeroporto"_s, airport), saved);
-    newAirport_.leftStanding(typedFields()); // of an airport that was open, or typed under another name
+    showOffer();
+}
+
+void frmMain::beginNewDraft(const QString& airport) {
+    // What was typed under another name is not undone here.
+    c->txtRwy.forEach([](int /*index*/, TextBox& field) { field.setText(field.text()); });
+    newAirport_.beginOver(draftName(airport, u"Aeroporto"_s, airport), noFields(), typedFields());
     showOffer();
 }
 

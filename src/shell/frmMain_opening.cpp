@@ -132,7 +132,7 @@ void frmMain::startNewAirport(const QString& name, const Before& before) {
     c->Frame3.setShown(Shown::Yes);
     c->txtNomeAeroporto.setUsable(Usable::Yes);
     c->txtRwy[IcaoCode].setFocus();
-    beginDraft(name, noFields());
+    beginNewDraft(name);
 }
 
 void frmMain::showAirport(const QString& name, const Before& before) {
